@@ -1,0 +1,10 @@
+#include "filesavedialog.h"
+
+namespace SaveAsOnly {
+
+bool startStep(MainWindow &)
+{
+    return true;
+}
+
+} // namespace SaveAsOnly

@@ -1,0 +1,86 @@
+#include "runprotocol.h"
+
+#include "filesavedialog.h"
+#include "jobsettings.h"
+#include "mainwindow.h"
+#include "windoworder.h"
+
+#include <QApplication>
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace RunProtocol {
+
+QString programFileName()
+{
+#ifdef Q_OS_WIN
+    return QStringLiteral("fmtask.exe");
+#else
+    return QStringLiteral("fmtask");
+#endif
+}
+
+QString converterFileName()
+{
+#ifdef Q_OS_WIN
+    return QStringLiteral("dxconv.exe");
+#else
+    return QStringLiteral("dxconv");
+#endif
+}
+
+QString converterPath(const QString &programPath)
+{
+    const QString program = programFileName();
+    QString path = programPath;
+    const qsizetype position = path.indexOf(program);
+    if (position >= 0)
+        path.remove(position, program.size());
+    else
+        path.chop(1); // the not-found position counts from the end
+    return path + converterFileName();
+}
+
+void centreOnScreen(QWidget *window)
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return;
+    const QRect available = screen->geometry();
+    const QRect frame = window->frameGeometry();
+    // Integer division truncates toward zero, as the placement always did.
+    window->move(
+        (available.right() - frame.width()) / 2, (available.bottom() - frame.height()) / 2);
+}
+
+bool startStep(MainWindow &window)
+{
+    if (jobSettings().saveAsOnly)
+        return SaveAsOnly::startStep(window);
+    window.show();
+    WindowOrder::setTopmost(&window);
+    return true;
+}
+
+int run(int &argc, char **argv)
+{
+    if (argc < 2)
+        return 0;
+
+    JobSettings &job = jobSettings();
+    job.converterPath = converterPath(QString::fromLocal8Bit(argv[0]));
+
+    QApplication application(argc, argv);
+    job.newFileName = QString::fromLocal8Bit(argv[1]);
+
+    MainWindow window;
+    if (!job.saveAsOnly)
+        centreOnScreen(&window);
+    while (!startStep(window)) { }
+    if (!job.saveAsOnly)
+        application.exec();
+    // The driver learns the outcome from the exchange values only; the status is always 0.
+    return 0;
+}
+
+} // namespace RunProtocol

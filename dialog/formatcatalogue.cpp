@@ -1,0 +1,166 @@
+#include "formatcatalogue.h"
+
+namespace Formats {
+
+namespace {
+
+// clang-format off
+const std::array<Format, Count> formatTable = {{
+    // index     tab      page      heading                       token    extension    default  filter label
+    {Bmp,      "BMP",  "tab",    "Print As BMP",               "bmp",   "ext_bmp",   "bmp",   "BMP Format (*."},
+    {Png,      "PNG",  "tab_3",  "Print As PNG",               "png",   "ext_png",   "png",   "PNG Format (*."},
+    {Jpeg,     "JPEG", "tab_4",  "Print As JPEG",              "jpg",   "ext_jpg",   "jpg",   "JPEG Format (*."},
+    {Jpeg2000, "JP2",  "tab_9",  "Print As JPEG2000",          "jp2",   "ext_jp2",   "jp2",   "JPEG2000 Format (*."},
+    {Tiff,     "TIFF", "tab_6",  "Print As TIFF",              "tif",   "ext_tif",   "tif",   "TIFF Format (*."},
+    {Gif,      "GIF",  "tab_5",  "Print As GIF",               "gif",   "ext_gif",   "gif",   "GIF Format (*."},
+    {Swf,      "SWF",  "tab_2",  "Print As SWF",               "swf",   "ext_swf",   "swf",   "SWF Format (*."},
+    {Pdf,      "PDF",  "tab_7",  "Print As PDF",               "pdf",   "ext_pdf",   "pdf",   "PDF Format (*."},
+    {Rtf,      "RTF",  "tab_8",  "Print As RTF",               "rtf",   "ext_rtf",   "rtf",   "RTF Format (*."},
+    {Excel,    "XLS",  "tab_12", "Print As MS Office  Excel",  "msxml", "ext_msxml", "xls",   "MS Excel Format (*."},
+    {Html,     "HTML", "tab_11", "Print As HTML",              "htm",   "ext_htm",   "html",  "HTML Format (*."},
+    {Djvu,     "DjVu", "tab_10", "Print As DjVu",              "djvu",  "ext_djvu",  "djvu",  "DjVu Format (*."},
+}};
+
+const std::array<ColorMode, 4> colorModeTable = {{
+    {"Monochrome", "1"},
+    {"256 colors", "8"},
+    {"Grayscale",  "24g"},
+    {"TrueColor",  "24"},
+}};
+
+const std::array<CompressionMethod, 6> compressionTable = {{
+    // button         text        code
+    {"rb_1",        "LZW",      "LZW"},
+    {"rb_2",        "FAX4",     "G4"},
+    {"rb_3",        "FAX3",     "G3"},
+    {"rb_4",        "JPEG",     "JPEG"},
+    {"rb_zip",      "ZIP",      "ZIP"},
+    {"rb_packbits", "PACKBITS", "PACKBITS"},
+}};
+// clang-format on
+
+QStringList modeTexts(std::initializer_list<int> rows)
+{
+    QStringList texts;
+    for (int row : rows)
+        texts << QString::fromLatin1(colorModeTable[row].text);
+    return texts;
+}
+
+const QStringList &allModes()
+{
+    static const QStringList modes = modeTexts({0, 1, 2, 3});
+    return modes;
+}
+
+const QStringList &grayAndTrueColor()
+{
+    static const QStringList modes = modeTexts({2, 3});
+    return modes;
+}
+
+} // namespace
+
+const std::array<Format, Count> &all()
+{
+    return formatTable;
+}
+
+const Format *byIndex(int index)
+{
+    if (index < 0 || index >= Count)
+        return nullptr;
+    return &formatTable[index];
+}
+
+const Format *byToken(const QString &token)
+{
+    for (const Format &format : formatTable) {
+        if (token == QLatin1String(format.token))
+            return &format;
+    }
+    return nullptr;
+}
+
+QString filterText(const Format &format, const QString &extension)
+{
+    return QLatin1String(format.filterLabel) + extension + QLatin1Char(')');
+}
+
+QString fixedRtfFilter()
+{
+    return QStringLiteral("RTF Format (*.rtf)");
+}
+
+const std::array<ColorMode, 4> &colorModes()
+{
+    return colorModeTable;
+}
+
+QString colorCodeForText(const QString &text)
+{
+    for (const ColorMode &mode : colorModeTable) {
+        if (text == QLatin1String(mode.text))
+            return QString::fromLatin1(mode.code);
+    }
+    return QString();
+}
+
+const std::array<CompressionMethod, 6> &compressionMethods()
+{
+    return compressionTable;
+}
+
+ColorList colorListFor(int index, const QString &compression)
+{
+    ColorList list;
+    switch (index) {
+    case Rtf:
+    case Excel:
+        list.hidden = true;
+        break;
+    case Jpeg:
+    case Jpeg2000:
+    case Swf:
+    case Pdf:
+    case Html:
+    case Djvu:
+        list.items = grayAndTrueColor();
+        list.selectedRow = 1;
+        break;
+    case Bmp:
+    case Png:
+        list.items = allModes();
+        list.selectedRow = 3;
+        list.forcedCode = QStringLiteral("24");
+        break;
+    case Gif:
+        // GIF has no true-colour mode.
+        list.items = modeTexts({0, 1, 2});
+        list.selectedRow = 1;
+        list.forcedCode = QStringLiteral("8");
+        break;
+    case Tiff:
+        if (compression == QLatin1String("G4") || compression == QLatin1String("G3")) {
+            list.items = modeTexts({0});
+            list.selectedRow = 0;
+            list.enabled = false;
+            list.forcedCode = QStringLiteral("1");
+        } else if (compression == QLatin1String("JPEG")) {
+            list.items = grayAndTrueColor();
+            list.selectedRow = 1;
+        } else if (compression == QLatin1String("LZW") || compression == QLatin1String("ZIP")
+            || compression == QLatin1String("PACKBITS")) {
+            list.items = allModes();
+            list.selectedRow = 3;
+            list.forcedCode = QStringLiteral("24");
+        }
+        // Any other code (empty before loading) leaves the list empty and enabled.
+        break;
+    default:
+        break;
+    }
+    return list;
+}
+
+} // namespace Formats

@@ -1,0 +1,91 @@
+#ifndef FMTASK_FORMATCATALOGUE_H
+#define FMTASK_FORMATCATALOGUE_H
+
+#include <QString>
+#include <QStringList>
+
+#include <array>
+
+// The twelve output formats of the dialog. A format is chosen by the page of the tab widget, so
+// the format index is the tab position as the form builds it; the token is what the driver reads.
+namespace Formats {
+
+enum Index {
+    Bmp = 0,
+    Png = 1,
+    Jpeg = 2,
+    Jpeg2000 = 3,
+    Tiff = 4,
+    Gif = 5,
+    Swf = 6,
+    Pdf = 7,
+    Rtf = 8,
+    Excel = 9,
+    Html = 10,
+    Djvu = 11,
+    Count = 12
+};
+
+struct Format
+{
+    Index index;
+    const char *tabText; // text of the tab, translated in the main window's context
+    const char *page; // object name of the tab page
+    const char *heading; // bold heading label of the page
+    const char *token; // stored in the value "format"
+    const char *extensionKey; // settings value that holds the file extension
+    const char *defaultExtension; // its default, without the dot
+    const char *filterLabel; // file-dialog filter, completed by extension and ")"
+};
+
+// All formats in tab order.
+const std::array<Format, Count> &all();
+
+// The format at a tab index, or nullptr outside 0..11.
+const Format *byIndex(int index);
+
+// The format of a stored token (exact, case-sensitive), or nullptr.
+const Format *byToken(const QString &token);
+
+// A filter text such as "PDF Format (*.pdf)".
+QString filterText(const Format &format, const QString &extension);
+
+// The fixed RTF filter the file dialogs compare with, whatever the RTF extension setting holds.
+QString fixedRtfFilter();
+
+// Colour modes and the colour code each one selects ("1", "8", "24g", "24").
+struct ColorMode
+{
+    const char *text;
+    const char *code;
+};
+const std::array<ColorMode, 4> &colorModes();
+
+// The colour code of an item text of the colour list; empty for any other text.
+QString colorCodeForText(const QString &text);
+
+// TIFF compression methods: radio button, the text it shows and the code stored in "format_ext".
+struct CompressionMethod
+{
+    const char *button;
+    const char *text;
+    const char *code;
+};
+const std::array<CompressionMethod, 6> &compressionMethods();
+
+// What the colour list shows for a page. `hidden` pages leave the list untouched; otherwise the
+// list is cleared and refilled with `items`, `selectedRow` is selected when the list is not empty,
+// and the code is forced when `forcedCode` is not empty.
+struct ColorList
+{
+    bool hidden = false;
+    bool enabled = true;
+    QStringList items;
+    int selectedRow = -1;
+    QString forcedCode;
+};
+ColorList colorListFor(int index, const QString &compression);
+
+} // namespace Formats
+
+#endif // FMTASK_FORMATCATALOGUE_H

@@ -1,0 +1,7 @@
+#include "pdfprotect.h"
+
+pdfprotect::pdfprotect(QWidget *parent)
+    : QDialog(parent)
+{ }
+
+pdfprotect::~pdfprotect() = default;

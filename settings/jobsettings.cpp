@@ -1,0 +1,19 @@
+#include "jobsettings.h"
+
+JobSettings::JobSettings()
+{
+    for (const Formats::Format &format : Formats::all())
+        extensions[format.index] = QString::fromLatin1(format.defaultExtension);
+}
+
+QString JobSettings::extension(int index) const
+{
+    const Formats::Format *format = Formats::byIndex(index);
+    return format ? extensions[format->index] : QString();
+}
+
+JobSettings &jobSettings()
+{
+    static JobSettings instance;
+    return instance;
+}
