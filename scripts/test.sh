@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds fmtask with its tests and runs the whole suite offscreen.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+scripts/install-deps.sh
+cmake -S . -B build -DCMAKE_BUILD_TYPE=Release >/dev/null
+cmake --build build -j"$(nproc)"
+QT_QPA_PLATFORM=offscreen ctest --test-dir build --output-on-failure -j"$(nproc)"
