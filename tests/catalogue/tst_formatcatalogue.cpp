@@ -156,7 +156,7 @@ void tst_FormatCatalogue::colorLists_data()
     const QStringList grayAndTrue = {"Grayscale", "TrueColor"};
     const QStringList none;
 
-    // row                          index   compression  hidden enabled items         row
+    // Columns: index, compression, hidden, enabled, items, selected row.
     QTest::newRow("bmp") << 0 << "" << false << true << all << 3;
     QTest::newRow("png") << 1 << "LZW" << false << true << all << 3;
     QTest::newRow("jpeg") << 2 << "" << false << true << grayAndTrue << 1;
