@@ -24,8 +24,6 @@ QString stripExtension(const QString &name)
 
 QString withExtension(const QString &name, const QString &extension)
 {
-    if (extension.isEmpty())
-        return name;
     const QString dotted = QLatin1Char('.') + extension;
     if (name.indexOf(dotted) != name.size() - dotted.size())
         return name + dotted;
