@@ -1,9 +1,139 @@
 #include "filesavedialog.h"
+#include "ui_filesavedialog.h"
+
+#include "exchangevalues.h"
+#include "formatcatalogue.h"
+#include "jobsettings.h"
+#include "mainwindow.h"
+#include "pathhelpers.h"
+#include "prompts.h"
+#include "windoworder.h"
+
+#include <QEvent>
+#include <QFile>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QStringList>
+
+namespace {
+
+// The filter text of a format with its stored extension.
+QString filterOf(Formats::Index index)
+{
+    return Formats::filterText(*Formats::byIndex(index), jobSettings().extension(index));
+}
+
+// Unlike the main dialog's Save As, this list offers HTML, as its last entry.
+QString filterList(bool djvuAvailable)
+{
+    QStringList filters;
+    for (Formats::Index index : {Formats::Bmp, Formats::Png, Formats::Tiff, Formats::Jpeg,
+             Formats::Jpeg2000, Formats::Gif, Formats::Pdf, Formats::Swf})
+        filters << filterOf(index);
+    if (djvuAvailable)
+        filters << filterOf(Formats::Djvu);
+    filters << filterOf(Formats::Rtf) << filterOf(Formats::Excel) << filterOf(Formats::Html);
+    return filters.join(QStringLiteral(";;"));
+}
+
+// The token of a chosen filter, first match deciding; empty when none matches. RTF is compared
+// with its fixed text whatever the RTF extension setting holds, as the driver expects.
+QString formatOfFilter(const QString &filter)
+{
+    for (Formats::Index index : {Formats::Html, Formats::Bmp, Formats::Png, Formats::Tiff,
+             Formats::Jpeg, Formats::Jpeg2000, Formats::Gif, Formats::Pdf, Formats::Swf,
+             Formats::Rtf, Formats::Djvu, Formats::Excel}) {
+        const QString text = index == Formats::Rtf ? Formats::fixedRtfFilter() : filterOf(index);
+        if (filter == text)
+            return QLatin1String(Formats::byIndex(index)->token);
+    }
+    return QString();
+}
+
+} // namespace
+
+FileSaveDialog::FileSaveDialog(QWidget *parent)
+    : QDialog(parent)
+    , ui(new Ui::FileSaveDialog)
+{
+    ui->setupUi(this);
+}
+
+FileSaveDialog::~FileSaveDialog()
+{
+    delete ui;
+}
+
+QString FileSaveDialog::askFileName(
+    const QString &initialPath, QString *selectedFilter, QString *format)
+{
+    const QString filters = filterList(djvuAvailable);
+
+    if (const QScreen *screen = QGuiApplication::primaryScreen()) {
+        const QRect area = screen->geometry();
+        const QRect frame = frameGeometry();
+        move(area.right() - frame.width() - 40, area.bottom() - 3 * frame.height());
+    }
+    show();
+    WindowOrder::takeForeground(this);
+
+    const QString name = Prompts::current().saveFileName(
+        this, tr("Save File As..."), initialPath, filters, selectedFilter);
+    if (!name.isEmpty())
+        *format = formatOfFilter(*selectedFilter);
+    return name;
+}
+
+void FileSaveDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        ui->retranslateUi(this);
+}
 
 namespace SaveAsOnly {
 
-bool startStep(MainWindow &)
+bool startStep(MainWindow &window)
 {
+    JobSettings &job = jobSettings();
+    QString selectedFilter = job.selectedFilter;
+    QString format;
+    QString name;
+    {
+        FileSaveDialog dialog;
+        dialog.setDjvuAvailable(window.isDjvuAvailable());
+        name = dialog.askFileName(job.outputFolder + job.newFileName, &selectedFilter, &format);
+    }
+
+    // A cancelled dialog returns nothing; the limit of 3 is this mode's own.
+    if (name.size() < 3) {
+        window.pb_cancel();
+        window.close();
+        return true;
+    }
+
+    name = PathHelpers::toNativeSeparators(name);
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+        Prompts::current().message(nullptr, QStringLiteral("Vellumio"),
+            FileSaveDialog::tr("You have no permission to write in this directory.\n"
+                               "Please, choose another one."),
+            QMessageBox::Ok);
+        return false;
+    }
+    // The file was only a write test; the driver creates it afresh.
+    file.remove();
+    job.outputFolder = PathHelpers::directoryPart(name);
+    job.newFileName = PathHelpers::stripExtension(PathHelpers::fileNamePart(name));
+
+    // The user key first in this mode, unlike Print and Cancel.
+    ExchangeValues::writeSaveAsOutcome(
+        SettingsScope::User, job.newFileName, job.outputFolder, format);
+    if (job.allUsers)
+        ExchangeValues::writeSaveAsOutcome(
+            SettingsScope::Machine, job.newFileName, job.outputFolder, format);
+
+    window.close();
     return true;
 }
 
