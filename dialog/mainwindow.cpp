@@ -1,13 +1,72 @@
 #include "mainwindow.h"
 #include "ui_mainwindow.h"
 
+#include "formatcatalogue.h"
+#include "jobsettings.h"
+#include "pdfprotect.h"
+#include "windoworder.h"
+
+#include <QFile>
 #include <QKeyEvent>
+
+#include <cstring>
+
+namespace {
+
+// The compression code that a radio button of the TIFF page stands for.
+const char *compressionCodeOf(const char *button)
+{
+    for (const Formats::CompressionMethod &method : Formats::compressionMethods()) {
+        if (std::strcmp(method.button, button) == 0)
+            return method.code;
+    }
+    return "";
+}
+
+bool isAsciiDigits(const QString &text)
+{
+    for (const QChar c : text) {
+        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , ui(new Ui::MainWindow)
 {
     ui->setupUi(this);
+
+    connect(ui->pb_filename, &QToolButton::clicked, this, &MainWindow::pb_filename);
+    connect(ui->pb_print, &QPushButton::clicked, this, &MainWindow::pb_print);
+    connect(ui->rb_pefix_1, &QRadioButton::clicked, this, &MainWindow::rb_pefix_1);
+    connect(ui->rb_pefix_custom, &QRadioButton::clicked, this, &MainWindow::rb_pefix_custom);
+    connect(ui->pb_cancel, &QPushButton::clicked, this, &MainWindow::pb_cancel);
+    connect(ui->pb_pdf_protect, &QPushButton::clicked, this, &MainWindow::pb_pdf_protect);
+    connect(ui->tabWidget, &QTabWidget::currentChanged, this, &MainWindow::currentChanged);
+    connect(ui->le_pr_custom, &QLineEdit::textChanged, this, &MainWindow::le_custom);
+    connect(ui->rb_1, &QRadioButton::clicked, this, &MainWindow::rb_1);
+    connect(ui->rb_2, &QRadioButton::clicked, this, &MainWindow::rb_2);
+    connect(ui->rb_3, &QRadioButton::clicked, this, &MainWindow::rb_3);
+    connect(ui->rb_4, &QRadioButton::clicked, this, &MainWindow::rb_4);
+    connect(ui->rb_zip, &QRadioButton::clicked, this, &MainWindow::rb_zip);
+    connect(ui->rb_packbits, &QRadioButton::clicked, this, &MainWindow::rb_packbits);
+    // The colour lookup works on item texts; -1 (while the list is cleared) gives the empty text.
+    connect(ui->cb_combobox, &QComboBox::currentIndexChanged, this,
+        [this](int index) { cb_combobox_currentIndexChanged(ui->cb_combobox->itemText(index)); });
+
+    nameChosenByDialog = false;
+
+    djvuAvailable = QFile::exists(jobSettings().converterPath);
+    // SWF is current, so removing the last page changes no page and signals nothing.
+    if (!djvuAvailable)
+        ui->tabWidget->removeTab(Formats::Djvu);
+
+    readAllUsersFlag();
+    loadSettings();
 }
 
 MainWindow::~MainWindow()
@@ -15,18 +74,115 @@ MainWindow::~MainWindow()
     delete ui;
 }
 
-void MainWindow::refillColorModes(int) { }
-void MainWindow::pb_pdf_protect() { }
-void MainWindow::rb_pefix_1() { }
-void MainWindow::rb_pefix_custom() { }
-void MainWindow::cb_combobox_currentIndexChanged(const QString &) { }
-void MainWindow::rb_1(bool) { }
-void MainWindow::rb_2(bool) { }
-void MainWindow::rb_3(bool) { }
-void MainWindow::rb_4(bool) { }
-void MainWindow::rb_zip(bool) { }
-void MainWindow::rb_packbits(bool) { }
-void MainWindow::le_custom(const QString &) { }
-void MainWindow::currentChanged(int) { }
-void MainWindow::setCompression(const char *, bool) { }
-void MainWindow::keyPressEvent(QKeyEvent *) { }
+void MainWindow::currentChanged(int index)
+{
+    // The shared options follow the page the tab widget shows, whatever index was signalled.
+    if (QWidget *page = ui->tabWidget->currentWidget()) {
+        ui->cd_extract_text->setParent(page);
+        ui->cd_extract_text->show();
+        ui->gb_color->setParent(page);
+        ui->gb_color->show();
+    }
+    refillColorModes(index);
+}
+
+void MainWindow::refillColorModes(int index)
+{
+    const Formats::ColorList list = Formats::colorListFor(index, compression);
+    if (list.hidden) {
+        // The colour mode chosen before stays in force for the driver.
+        ui->gb_color->hide();
+        return;
+    }
+    ui->gb_color->show();
+    ui->cb_combobox->setEnabled(true);
+    ui->cb_combobox->clear();
+    ui->cb_combobox->addItems(list.items);
+    if (!list.items.isEmpty())
+        ui->cb_combobox->setCurrentIndex(list.selectedRow);
+    ui->cb_combobox->setEnabled(list.enabled);
+    if (!list.forcedCode.isEmpty())
+        jobSettings().colorCode = list.forcedCode;
+}
+
+void MainWindow::cb_combobox_currentIndexChanged(const QString &text)
+{
+    const QString code = Formats::colorCodeForText(text);
+    if (!code.isEmpty())
+        jobSettings().colorCode = code;
+}
+
+void MainWindow::setCompression(const char *code, bool state)
+{
+    if (state)
+        compression = QLatin1String(code);
+    // Also a click on the checked button resets the colour list to the method's default.
+    refillColorModes(Formats::Tiff);
+}
+
+void MainWindow::rb_1(bool state)
+{
+    setCompression(compressionCodeOf("rb_1"), state);
+}
+
+void MainWindow::rb_2(bool state)
+{
+    setCompression(compressionCodeOf("rb_2"), state);
+}
+
+void MainWindow::rb_3(bool state)
+{
+    setCompression(compressionCodeOf("rb_3"), state);
+}
+
+void MainWindow::rb_4(bool state)
+{
+    setCompression(compressionCodeOf("rb_4"), state);
+}
+
+void MainWindow::rb_zip(bool state)
+{
+    setCompression(compressionCodeOf("rb_zip"), state);
+}
+
+void MainWindow::rb_packbits(bool state)
+{
+    setCompression(compressionCodeOf("rb_packbits"), state);
+}
+
+// The prefix buttons read the pressed-down state, which is already released when the click is
+// signalled: clicking "Add 1" disables the custom number, clicking "Custom" enables it.
+void MainWindow::rb_pefix_1()
+{
+    ui->le_pr_custom->setEnabled(ui->rb_pefix_1->isDown());
+}
+
+void MainWindow::rb_pefix_custom()
+{
+    ui->le_pr_custom->setEnabled(!ui->rb_pefix_custom->isDown());
+}
+
+void MainWindow::le_custom(const QString &text)
+{
+    // Restoring the last accepted number signals again, with a text this filter accepts.
+    if (!isAsciiDigits(text)) {
+        ui->le_pr_custom->setText(jobSettings().customNumber);
+        return;
+    }
+    jobSettings().customNumber = text;
+}
+
+void MainWindow::pb_pdf_protect()
+{
+    // Out of the topmost band first, or the PDF dialog would open behind this one.
+    WindowOrder::clearTopmost(this);
+    pdfprotect dialog;
+    dialog.exec();
+}
+
+void MainWindow::keyPressEvent(QKeyEvent *event)
+{
+    // Return and keypad Enter print from anywhere; every other key stops here.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        pb_print();
+}
