@@ -1,11 +1,28 @@
 #include "exchangevalues.h"
 
+#include "settingskey.h"
+
 namespace ExchangeValues {
 
-void writeAbort(SettingsScope) { }
+void writeAbort(SettingsScope scope)
+{
+    SettingsKey key(scope);
+    key.setText(Settings::IsAbort, QStringLiteral("true"));
+}
 
-void writeOutcome(SettingsKey &, const QString &, const QString &) { }
+void writeOutcome(SettingsKey &key, const QString &newFileName, const QString &outputFolder)
+{
+    key.setText(Settings::IsAbort, QStringLiteral("false"));
+    key.setText(Settings::NewFileName, newFileName);
+    key.setText(Settings::PathWritten, outputFolder);
+}
 
-void writeSaveAsOutcome(SettingsScope, const QString &, const QString &, const QString &) { }
+void writeSaveAsOutcome(SettingsScope scope, const QString &newFileName,
+    const QString &outputFolder, const QString &format)
+{
+    SettingsKey key(scope);
+    writeOutcome(key, newFileName, outputFolder);
+    key.setText(Settings::Format, format);
+}
 
 } // namespace ExchangeValues

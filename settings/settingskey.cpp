@@ -1,0 +1,136 @@
+#include "settingskey.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+SettingsKey::WriteObserver writeObserver = nullptr;
+
+QSettings::Scope qtScope(SettingsScope scope)
+{
+    return scope == SettingsScope::Machine ? QSettings::SystemScope : QSettings::UserScope;
+}
+
+constexpr QFileDevice::Permissions ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+constexpr QFileDevice::Permissions groupAndOthers = QFileDevice::ReadGroup | QFileDevice::WriteGroup
+    | QFileDevice::ExeGroup | QFileDevice::ReadOther | QFileDevice::WriteOther
+    | QFileDevice::ExeOther;
+
+} // namespace
+
+SettingsKey::SettingsKey(SettingsScope scope)
+    : m_scope(scope)
+    , m_settings(QSettings::NativeFormat, qtScope(scope), QStringLiteral("Tarnwick"),
+          QStringLiteral("Vellumio"))
+{
+    // The user key must never show values of the all-users key.
+    m_settings.setFallbacksEnabled(false);
+}
+
+SettingsKey::~SettingsKey() = default;
+
+QVariant SettingsKey::value(Settings::Value value) const
+{
+    return this->value(Settings::name(value), Settings::defaultValue(value));
+}
+
+QString SettingsKey::text(Settings::Value value) const
+{
+    return this->value(value).toString();
+}
+
+bool SettingsKey::flag(Settings::Value value) const
+{
+    return this->value(value).toBool();
+}
+
+int SettingsKey::integer(Settings::Value value) const
+{
+    return this->value(value).toInt();
+}
+
+void SettingsKey::setText(Settings::Value value, const QString &text)
+{
+    setValue(Settings::name(value), text);
+}
+
+void SettingsKey::setFlag(Settings::Value value, bool on)
+{
+    if (Settings::entry(value).form == Settings::Form::Boolean)
+        setValue(Settings::name(value), on);
+    else
+        setValue(Settings::name(value), on ? QStringLiteral("true") : QStringLiteral("false"));
+}
+
+void SettingsKey::setInteger(Settings::Value value, int number)
+{
+    setValue(Settings::name(value), number);
+}
+
+QVariant SettingsKey::value(const QString &name, const QVariant &defaultValue) const
+{
+    const QString stored = storedName(name);
+    if (stored.isEmpty())
+        return defaultValue;
+    return m_settings.value(stored, defaultValue);
+}
+
+void SettingsKey::setValue(const QString &name, const QVariant &value)
+{
+    if (writeObserver)
+        writeObserver(m_scope, name, value);
+    prepareFileForWriting();
+
+    const QStringList stored = m_settings.allKeys();
+    for (const QString &other : stored) {
+        if (other != name && other.compare(name, Qt::CaseInsensitive) == 0)
+            m_settings.remove(other);
+    }
+    m_settings.setValue(name, value);
+    m_namesByFold.insert(name.toLower(), name);
+}
+
+QString SettingsKey::fileName(SettingsScope scope)
+{
+    QSettings settings(QSettings::NativeFormat, qtScope(scope), QStringLiteral("Tarnwick"),
+        QStringLiteral("Vellumio"));
+    return settings.fileName();
+}
+
+void SettingsKey::setWriteObserver(WriteObserver observer)
+{
+    writeObserver = observer;
+}
+
+QString SettingsKey::storedName(const QString &name) const
+{
+    if (m_settings.contains(name))
+        return name;
+    if (!m_namesIndexed) {
+        const QStringList stored = m_settings.allKeys();
+        for (const QString &key : stored)
+            m_namesByFold.insert(key.toLower(), key);
+        m_namesIndexed = true;
+    }
+    return m_namesByFold.value(name.toLower());
+}
+
+void SettingsKey::prepareFileForWriting()
+{
+    // The user key holds the scrambled passwords: only its owner may read it.
+    if (m_filePrepared || m_scope != SettingsScope::User)
+        return;
+    m_filePrepared = true;
+    const QString path = m_settings.fileName();
+    const QFileInfo info(path);
+    if (!info.exists()) {
+        QDir().mkpath(info.absolutePath());
+        QFile file(path);
+        if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerOnly))
+            file.close();
+    } else if (info.isFile() && (info.permissions() & groupAndOthers)) {
+        QFile::setPermissions(path, info.permissions() & ~groupAndOthers);
+    }
+}
