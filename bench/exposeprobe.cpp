@@ -1,0 +1,39 @@
+#include <QCoreApplication>
+#include <QEvent>
+#include <QWindow>
+
+#include <unistd.h>
+
+namespace {
+
+// Tells the benchmark driver the moment a top-level window is first on screen, then ends the
+// process at once so that teardown costs do not count.
+class FirstExposeProbe : public QObject
+{
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Expose && watched->isWindowType()) {
+            const auto *window = static_cast<const QWindow *>(watched);
+            if (window->isTopLevel() && window->isExposed()) {
+                static const char line[] = "exposed\n";
+                [[maybe_unused]] const ssize_t written = ::write(1, line, sizeof line - 1);
+                ::_exit(0);
+            }
+        }
+        return false;
+    }
+};
+
+void installFirstExposeProbe()
+{
+    QCoreApplication::instance()->installEventFilter(
+        new FirstExposeProbe(QCoreApplication::instance()));
+}
+
+} // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(installFirstExposeProbe)
