@@ -1,0 +1,46 @@
+#ifndef FMTASK_MODERNCOLORS_H
+#define FMTASK_MODERNCOLORS_H
+
+#include <QColor>
+
+class QPalette;
+
+// The colours the modern style paints with, all derived from one palette so that the style
+// follows the user's desktop colours. The hover, checked and pressed triples hold equal colours
+// today; they stay three members each so a gradient can be given distinct stops later.
+struct ModernColors
+{
+    QColor backgroundStart; // main-window and tool-box background, left end
+    QColor backgroundEnd; // same gradients, right end
+    QColor menuBorder; // pop-up menu frame, open menu-bar item frame
+    QColor menuBackground; // menu area right of the icon column, join line under the bar item
+    QColor menuBarOpenTop; // open menu-bar item gradient, start
+    QColor menuBarOpenBottom; // open menu-bar item gradient, end
+    QColor barTop; // tool-bar, dock-title and menu icon-column gradients, start
+    QColor barMiddle; // tool-bar middle band, plain tab and tool-box tab gradients, start
+    QColor barBottom; // tool-bar, dock-title, icon-column and tab gradients, end
+    QColor gripShadow; // tool-bar handle dots, dark square
+    QColor gripLight; // tool-bar handle dots, light square
+    QColor separatorDark; // tool-bar and menu separators, dark line
+    QColor separatorLight; // tool-bar separator, light line
+    QColor hoverBorder; // frame of hovered, pressed or checked items
+    QColor hoverTop;
+    QColor hoverMiddle;
+    QColor hoverBottom;
+    QColor checkedTop;
+    QColor checkedMiddle;
+    QColor checkedBottom;
+    QColor pressedTop;
+    QColor pressedMiddle;
+    QColor pressedBottom;
+    QColor borderDark; // frame of selected tabs, bottom line of horizontal tool bars
+    QColor borderLight; // frame of plain tabs, right edge of horizontal tool bars
+
+    // Derives every colour from the current colour group of the palette.
+    static ModernColors fromPalette(const QPalette &palette);
+};
+
+// Blends two colours channel by channel with weight t on a; the result is always opaque.
+QColor mixColors(const QColor &a, const QColor &b, double t);
+
+#endif // FMTASK_MODERNCOLORS_H

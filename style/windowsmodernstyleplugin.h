@@ -1,0 +1,17 @@
+#ifndef FMTASK_WINDOWSMODERNSTYLEPLUGIN_H
+#define FMTASK_WINDOWSMODERNSTYLEPLUGIN_H
+
+#include <QStylePlugin>
+
+// Offers the modern style to QStyleFactory under the name "windowsmodernstyle"; linked into the
+// program and imported with Q_IMPORT_PLUGIN(WindowsModernStylePlugin).
+class WindowsModernStylePlugin : public QStylePlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QStyleFactoryInterface_iid FILE "windowsmodernstyle.json")
+
+public:
+    QStyle *create(const QString &key) override;
+};
+
+#endif // FMTASK_WINDOWSMODERNSTYLEPLUGIN_H
