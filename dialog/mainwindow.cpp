@@ -23,6 +23,7 @@ const char *compressionCodeOf(const char *button)
     return "";
 }
 
+// Only "0" to "9" make a number the driver can read; digits of other scripts do not.
 bool isAsciiDigits(const QString &text)
 {
     for (const QChar c : text) {

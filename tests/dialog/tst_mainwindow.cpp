@@ -359,16 +359,12 @@ void MainWindowTest::unknownColourText_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("code");
 
-    QTest::newRow("empty while cleared") << ""
-                                         << "8";
-    QTest::newRow("unknown mode") << "Sepia"
-                                  << "8";
-    QTest::newRow("other letter case") << "truecolor"
-                                       << "8";
-    QTest::newRow("trailing blank") << "Grayscale "
-                                    << "8";
-    QTest::newRow("known mode") << "Grayscale"
-                                << "24g";
+    // clang-format off
+    QTest::newRow("empty while cleared") << ""          << "8";
+    QTest::newRow("unknown mode")        << "Sepia"     << "8";
+    QTest::newRow("other letter case")   << "grayscale" << "8";
+    QTest::newRow("known mode")          << "Grayscale" << "24g";
+    // clang-format on
 }
 
 void MainWindowTest::unknownColourText()
