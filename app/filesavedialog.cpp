@@ -69,6 +69,8 @@ QString FileSaveDialog::askFileName(
 {
     const QString filters = filterList(djvuAvailable);
 
+    // The native window is created first so that the frame is known, as far as it can be.
+    winId();
     if (const QScreen *screen = QGuiApplication::primaryScreen()) {
         const QRect area = screen->geometry();
         const QRect frame = frameGeometry();
