@@ -137,9 +137,10 @@ void MainWindow::pb_print()
     }
 
     // Creating the file is the only reliable test of write access; it is removed again so the
-    // driver writes a fresh one.
+    // driver writes a fresh one. A NUL would cut the name short in the system call and create
+    // (or truncate) another file, so such a name counts as one that cannot be created.
     QFile file(name);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+    if (!name.contains(QChar(0)) && file.open(QIODevice::WriteOnly | QIODevice::Text)) {
         file.remove();
         saveAllSettings();
         close();

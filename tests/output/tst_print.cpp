@@ -46,6 +46,7 @@ private slots:
     void printChecks_data();
     void printChecks();
     void printAgainAfterPermissionMessage();
+    void nameWithoutFolder();
     void readOnlyFolder();
     void printSaves_data();
     void printSaves();
@@ -90,6 +91,10 @@ void PrintTest::printChecks_data()
     QTest::newRow("existing, from Save As") << "report"          << Target::File    << true  << QList<int>()      << QStringList()                    << true  << false;
     QTest::newRow("cannot create, Yes")     << "report"          << Target::Folder  << false << QList<int>{yes}   << QStringList{replace, noPermission} << false << true;
     QTest::newRow("cannot create, Save As") << "report"          << Target::Folder  << true  << QList<int>()      << QStringList{noPermission}        << false << true;
+    // Only No keeps the old file; a box closed any other way goes on.
+    QTest::newRow("existing, no answer")    << "report"          << Target::File    << false << QList<int>()      << QStringList{replace}             << true  << false;
+    QTest::newRow("name too long")          << QString(300, QLatin1Char('n')) << Target::Nothing << false << QList<int>() << QStringList{noPermission} << false << false;
+    QTest::newRow("NUL in name")            << QStringLiteral("rep") + QChar(0) + QStringLiteral("ort") << Target::Nothing << false << QList<int>() << QStringList{noPermission} << false << false;
     // clang-format on
 }
 
@@ -152,6 +157,7 @@ void PrintTest::printChecks()
     QVERIFY(!WindowOrder::isTopmost(window.get()));
     QCOMPARE(window->isVisible(), !closed);
     QCOMPARE(QFileInfo::exists(name), leftBehind);
+    QCOMPARE(QDir(root).entryList(QDir::Files).isEmpty(), !(target == Target::File && leftBehind));
     if (target == Target::File && leftBehind)
         QCOMPARE(JobFixture::bytesOf(name), QByteArray("an earlier print"));
     // Nothing is saved unless the dialog closes.
@@ -182,6 +188,27 @@ void PrintTest::printAgainAfterPermissionMessage()
     QCOMPARE(prompts.questions.size(), 2);
     QVERIFY(!window->isVisible());
     QVERIFY(!QFileInfo::exists(root + QLatin1String("/free.pdf")));
+}
+
+void PrintTest::nameWithoutFolder()
+{
+    JobFixture job;
+    auto window = job.createWindow(false);
+    ScriptedPrompts prompts;
+    const QString previous = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(job.dir.path()));
+    window->show();
+    tabs(*window)->setCurrentIndex(Formats::Pdf);
+    fileNameEdit(*window)->setText(QStringLiteral("report"));
+
+    window->pb_print();
+
+    QDir::setCurrent(previous);
+    // The empty folder is the current directory, so the write test succeeds there.
+    QVERIFY(prompts.questions.isEmpty());
+    QVERIFY(!window->isVisible());
+    QVERIFY(!QFileInfo::exists(job.path(QStringLiteral("report.pdf"))));
+    QCOMPARE(jobSettings().outputFolder, QString());
 }
 
 void PrintTest::readOnlyFolder()
