@@ -114,9 +114,6 @@ void SaveAsTest::fullOutputFileName_data()
     QTest::newRow("html default is html")  << false << 10 << QString() << "/out/page"        << "/out/page.html"       << htmlFilter;
     QTest::newRow("excel default is xls")  << false << 9  << QString() << "/out/sheet"       << "/out/sheet.xls"       << excelFilter;
     QTest::newRow("djvu page")             << true  << 11 << QString() << "/out/scan"        << "/out/scan.djvu"       << djvuFilter;
-    QTest::newRow("already ends so")       << false << 7  << QString() << "/out/report.pdf"  << "/out/report.pdf"      << pdfFilter;
-    QTest::newRow("earlier occurrence")    << false << 7  << QString() << "/o/r.pdf.copy.pdf" << "/o/r.pdf.copy.pdf.pdf" << pdfFilter;
-    QTest::newRow("3 characters kept")     << false << 7  << QString() << "abc"              << "abc"                  << pdfFilter;
     QTest::newRow("stored extension used") << false << 7  << "PDF"     << "/out/report.pdf"  << "/out/report.pdf.PDF"  << "PDF Format (*.PDF)";
     QTest::newRow("empty stored extension") << false << 0 << ""        << "/out/report"      << "/out/report."         << "BMP Format (*.)";
     // clang-format on
