@@ -12,12 +12,12 @@
 
 namespace {
 
-// Runs `inspect` on the modal dialog as soon as the event loop of `exec` is up.
-void whenModal(std::function<void(QWidget *)> inspect)
+// Runs `examine` on the modal dialog as soon as the event loop of `exec` is up.
+void whenModal(std::function<void(QWidget *)> examine)
 {
-    QTimer::singleShot(0, qApp, [inspect] {
+    QTimer::singleShot(0, qApp, [examine] {
         QWidget *modal = QApplication::activeModalWidget();
-        inspect(modal);
+        examine(modal);
         if (modal && modal->isVisible())
             modal->close();
     });
@@ -54,11 +54,11 @@ void PromptsTest::message()
     QFETCH(int, buttons);
     QFETCH(int, clicked);
 
-    bool inspected = false;
+    bool examined = false;
     whenModal([&](QWidget *modal) {
         auto *box = qobject_cast<QMessageBox *>(modal);
         QVERIFY(box);
-        inspected = true;
+        examined = true;
         QCOMPARE(box->icon(), QMessageBox::NoIcon);
         QCOMPARE(box->windowTitle(), title);
         QCOMPARE(box->text(), QStringLiteral("line one\nline two"));
@@ -70,7 +70,7 @@ void PromptsTest::message()
     const QMessageBox::StandardButton answer = Prompts::current().message(nullptr, title,
         QStringLiteral("line one\nline two"), QMessageBox::StandardButtons(buttons));
 
-    QVERIFY(inspected);
+    QVERIFY(examined);
     QCOMPARE(int(answer), clicked);
 }
 
@@ -81,11 +81,11 @@ void PromptsTest::saveFileName()
     const QString filters = QStringLiteral("BMP Format (*.bmp);;PNG Format (*.png)");
     QString selectedFilter = QStringLiteral("BMP Format (*.bmp)");
 
-    bool inspected = false;
+    bool examined = false;
     whenModal([&](QWidget *modal) {
         auto *dialog = qobject_cast<QFileDialog *>(modal);
         QVERIFY(dialog);
-        inspected = true;
+        examined = true;
         QCOMPARE(dialog->windowTitle(), QStringLiteral("Save File As..."));
         QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptSave);
         QCOMPARE(dialog->nameFilters(), filters.split(QLatin1String(";;")));
@@ -101,7 +101,7 @@ void PromptsTest::saveFileName()
         = Prompts::current().saveFileName(nullptr, QStringLiteral("Save File As..."),
             dir.filePath(QStringLiteral("report")), filters, &selectedFilter);
 
-    QVERIFY(inspected);
+    QVERIFY(examined);
     QCOMPARE(result, chosen);
     QCOMPARE(selectedFilter, QStringLiteral("PNG Format (*.png)"));
 }
