@@ -117,7 +117,7 @@ bool startStep(MainWindow &window)
     name = PathHelpers::toNativeSeparators(name);
     QFile file(name);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
-        Prompts::current().message(nullptr, QStringLiteral("Vellumio"),
+        Prompts::current().message(nullptr, FileSaveDialog::tr("Vellumio"),
             FileSaveDialog::tr("You have no permission to write in this directory.\n"
                                "Please, choose another one."),
             QMessageBox::Ok);
