@@ -52,7 +52,7 @@ private:
     void prepareFileForWriting();
 
     SettingsScope m_scope;
-    mutable QSettings m_settings;
+    QSettings m_settings;
     // Stored names by their lower-case form, built on the first lookup that misses.
     mutable QHash<QString, QString> m_namesByFold;
     mutable bool m_namesIndexed = false;
