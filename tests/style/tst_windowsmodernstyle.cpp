@@ -43,7 +43,6 @@ private slots:
     void initTestCase();
     void cleanupTestCase();
 
-    void colorsComeWithThePalette();
     void pixelMetric_data();
     void pixelMetric();
     void sizeFromContents_data();
@@ -126,19 +125,6 @@ QWidget *tst_WindowsModernStyle::widgetNamed(const QString &name) const
     return widgets.value(name);
 }
 
-void tst_WindowsModernStyle::colorsComeWithThePalette()
-{
-    WindowsModernStyle style;
-    QVERIFY(!style.colors().barTop.isValid());
-
-    QPalette palette = QApplication::palette();
-    style.polish(palette);
-    // No desktop theme library here, yet the scheme and the colours are settled.
-    QCOMPARE(style.colorScheme(), 3);
-    QVERIFY(style.colors().barTop.isValid());
-    QCOMPARE(style.colors().barBottom, QApplication::palette().color(QPalette::Button));
-}
-
 void tst_WindowsModernStyle::pixelMetric_data()
 {
     // columns: metric, widget it is asked for (empty: none), value (FromBase: the base's)
@@ -212,16 +198,12 @@ void tst_WindowsModernStyle::sizeFromContents_data()
     QTest::newRow("item without shortcut")
         << QStyle::CT_MenuItem << normal << QStringLiteral("&Open") << QSize(100, 16)
         << QSize(148, 22);
-    QTest::newRow("sub-menu item") << QStyle::CT_MenuItem << QStyleOptionMenuItem::SubMenu
-                                   << QStringLiteral("Recent") << QSize(70, 30) << QSize(118, 22);
     QTest::newRow("separator") << QStyle::CT_MenuItem << QStyleOptionMenuItem::Separator
                                << QString() << QSize(100, 16) << QSize(10, 3);
     QTest::newRow("menu-bar item") << QStyle::CT_MenuBarItem << normal << QStringLiteral("&File")
                                    << QSize(30, 14) << QSize(46, 20);
     QTest::newRow("menu bar") << QStyle::CT_MenuBar << normal << QString() << QSize(200, 20)
                               << QSize(200, 19);
-    QTest::newRow("menu") << QStyle::CT_Menu << normal << QString() << QSize(120, 80)
-                          << QSize(120, 80);
 }
 
 void tst_WindowsModernStyle::sizeFromContents()
@@ -360,8 +342,6 @@ void tst_WindowsModernStyle::layoutSpacing_data()
     QTest::newRow("tool box, button above page") << box << button << other << 0;
     QTest::newRow("tool box, page above button") << box << other << button << 3;
     QTest::newRow("tool box, two buttons") << box << button << button << 2;
-    QTest::newRow("tool box, two pages") << box << other << other << 2;
-    QTest::newRow("tool box, check box") << box << QSizePolicy::CheckBox << button << 2;
     QTest::newRow("dialog") << QStringLiteral("dialog tabs") << button << other << 6;
 }
 
@@ -404,8 +384,6 @@ void tst_WindowsModernStyle::createByName_data()
     QTest::newRow("as registered") << QStringLiteral("WindowsModernStyle") << true;
     QTest::newRow("capitals") << QStringLiteral("WINDOWSMODERNSTYLE") << true;
     QTest::newRow("blanks between words") << QStringLiteral("Windows Modern Style") << false;
-    QTest::newRow("stored style name") << QStringLiteral("WindowsXP") << false;
-    QTest::newRow("empty") << QString() << false;
 }
 
 void tst_WindowsModernStyle::createByName()
@@ -427,7 +405,9 @@ void tst_WindowsModernStyle::installedByNameLaysOutToolBoxes()
     QStyle *installed = QApplication::setStyle(QStringLiteral("windowsmodernstyle"));
     const auto *style = qobject_cast<WindowsModernStyle *>(installed);
     QVERIFY(style);
-    QVERIFY(style->colors().barTop.isValid());
+    // There is no desktop theme library here, yet the scheme and the colours are settled.
+    QCOMPARE(style->colorScheme(), 3);
+    QCOMPARE(style->colors().barBottom, QApplication::palette().color(QPalette::Button));
 
     QToolBox toolBox;
     const QList<QWidget *> pages {new QWidget, new QWidget};
