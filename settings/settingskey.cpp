@@ -119,6 +119,10 @@ QString SettingsKey::storedName(const QString &name) const
 
 void SettingsKey::prepareFileForWriting()
 {
+#ifdef Q_OS_WIN
+    // The registry key is guarded by its own access rights.
+    m_filePrepared = true;
+#endif
     // The user key holds the scrambled passwords: only its owner may read it.
     if (m_filePrepared || m_scope != SettingsScope::User)
         return;
