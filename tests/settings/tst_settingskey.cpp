@@ -129,10 +129,10 @@ void tst_SettingsKey::passwordThroughTheFile_data()
     QString nulFillers; // the filler of an ASCII character at its own code is 0
     for (char16_t code = 0; code < 128; ++code)
         nulFillers += QChar(code);
-    const QString specials = QStringLiteral("a=b;c,d \"e\" \\f @String(g) #h [i]\r\n\t");
+    const QString metacharacters = QStringLiteral("a=b;c,d \"e\" \\f @String(g) #h [i]\r\n\t");
     const QString scripts = QStringLiteral("\u00e4\u00df\u03a9\u4e2d\uac00") + text({0xFFFE});
 
-    QTest::newRow("INI specials") << specials << specials;
+    QTest::newRow("INI metacharacters") << metacharacters << metacharacters;
     QTest::newRow("scripts, negative fillers") << scripts << scripts;
     QTest::newRow("NUL fillers") << nulFillers << nulFillers;
     QTest::newRow("12000 BMP characters") << manyBmp << manyBmp;
