@@ -76,19 +76,9 @@ private slots:
     void cleanup();
 
     void emptyKeyGivesDefaults();
-    void formatSelection_data();
-    void formatSelection();
-    void colourSelection_data();
-    void colourSelection();
-    void flagTexts_data();
-    void flagTexts();
-    void storedValuesShown_data();
-    void storedValuesShown();
+    void loading_data();
+    void loading();
     void oneSidedValuesNeverSwitchOff();
-    void keyChosen_data();
-    void keyChosen();
-    void style_data();
-    void style();
     void saveOrder_data();
     void saveOrder();
     void roundTrip_data();
@@ -104,6 +94,8 @@ private:
     template<class T>
     T *widget(const char *name) const;
     QString state(const char *name) const;
+    // The state of a widget by object name, or of a job value by a short name.
+    QString observe(const QString &what) const;
 
     QTemporaryDir *m_dir = nullptr;
     std::unique_ptr<MainWindow> m_window;
@@ -214,135 +206,104 @@ void tst_LoadSave::emptyKeyGivesDefaults()
     QVERIFY(!QFile::exists(m_dir->filePath("user")) && !QFile::exists(m_dir->filePath("machine")));
 }
 
-void tst_LoadSave::formatSelection_data()
+void tst_LoadSave::loading_data()
 {
-    QTest::addColumn<QByteArray>("format");
+    QTest::addColumn<QString>("user"); // values in the user key
+    QTest::addColumn<QString>("machine"); // values in the machine key
     QTest::addColumn<bool>("djvu"); // converter present
-    QTest::addColumn<QString>("token");
-    QTest::addColumn<int>("page"); // of tabWidget
+    QTest::addColumn<QString>("expected"); // "what=state; ..." as observe() reports it
+
+    // One stored text in the five kinds of switch: converted, typed, and compared with "true".
+    const auto flags = [](const char *text) {
+        return QString::fromLatin1("multipage_pdf=%1\nload_ext_app=%1\npdf_protect=%1\n"
+                                   "extract_text=%1\nchDialog_SaveAs=%1")
+            .arg(QLatin1String(text));
+    };
+    const QString all = QStringLiteral("settings_for_all_users=");
 
     // clang-format off
-    QTest::newRow("pdf")                << QByteArray("pdf")  << false << "pdf"  << 7;
-    QTest::newRow("capital PDF")        << QByteArray("PDF")  << false << "jpg"  << 2;
-    QTest::newRow("djvu, no converter") << QByteArray("djvu") << false << "jpg"  << 2;
+    QTest::newRow("pdf")                << "format=pdf"  << "" << false << "format=pdf; page=7";
+    QTest::newRow("capital PDF")        << "format=PDF"  << "" << false << "format=jpg; page=2";
+    QTest::newRow("djvu, no converter") << "format=djvu" << "" << false << "format=jpg; page=2";
     // The DjVu page is asked for as index 12, which the tab widget ignores.
-    QTest::newRow("djvu, converter")    << QByteArray("djvu") << true  << "djvu" << 6;
-    // clang-format on
-}
+    QTest::newRow("djvu, converter")    << "format=djvu" << "" << true  << "format=djvu; page=6";
 
-void tst_LoadSave::formatSelection()
-{
-    QFETCH(QByteArray, format);
-    QFETCH(bool, djvu);
-    QFETCH(QString, token);
-    QFETCH(int, page);
-    open("format=" + format, djvu);
-    QCOMPARE(jobSettings().formatToken, token);
-    QCOMPARE(widget<QTabWidget>("tabWidget")->currentIndex(), page);
-}
-
-void tst_LoadSave::colourSelection_data()
-{
-    QTest::addColumn<QByteArray>("ini");
-    QTest::addColumn<int>("items"); // entries of cb_combobox
-    QTest::addColumn<int>("row"); // its current index
-    QTest::addColumn<QString>("code");
-
-    // clang-format off
-    QTest::newRow("tif JPEG 8")  << QByteArray("format=tif\nformat_ext=JPEG\nimage_color=8") << 2 << 1  << "8";
-    QTest::newRow("bmp 24g")     << QByteArray("format=bmp\nimage_color=24g")              << 4 << 2  << "24g";
-    QTest::newRow("pdf 24g")     << QByteArray("format=pdf\nimage_color=24g")              << 2 << 0  << "24g";
-    QTest::newRow("pdf unknown") << QByteArray("format=pdf\nimage_color=x")                << 2 << 1  << "x";
+    QTest::newRow("tif JPEG 8")  << "format=tif\nformat_ext=JPEG\nimage_color=8" << "" << false << "rows=1/2; colour=8";
+    QTest::newRow("bmp 24g")     << "format=bmp\nimage_color=24g"                << "" << false << "rows=2/4; colour=24g";
+    QTest::newRow("pdf 24g")     << "format=pdf\nimage_color=24g"                << "" << false << "rows=0/2; colour=24g";
+    QTest::newRow("pdf unknown") << "format=pdf\nimage_color=x"                  << "" << false << "rows=1/2; colour=x";
     // SWF is current from the start: the list keeps the form's order TrueColor, Grayscale.
-    QTest::newRow("swf 24g")     << QByteArray("format=swf\nimage_color=24g")              << 2 << 0  << "24g";
-    QTest::newRow("swf 24")      << QByteArray("format=swf\nimage_color=24")               << 2 << 1  << "24g";
+    QTest::newRow("swf 24g")     << "format=swf\nimage_color=24g"                << "" << false << "rows=0/2; colour=24g";
+    QTest::newRow("swf 24")      << "format=swf\nimage_color=24"                 << "" << false << "rows=1/2; colour=24g";
     // A row beyond the list is left to the combo box; the code is not rewritten.
-    QTest::newRow("gif 24")      << QByteArray("format=gif\nimage_color=24")               << 3 << -1 << "24";
-    QTest::newRow("tif G4 8")    << QByteArray("format=tif\nformat_ext=G4\nimage_color=8") << 1 << -1 << "8";
+    QTest::newRow("gif 24")      << "format=gif\nimage_color=24"                 << "" << false << "rows=-1/3; colour=24";
+    QTest::newRow("tif G4 8")    << "format=tif\nformat_ext=G4\nimage_color=8"   << "" << false << "rows=-1/1; colour=8";
+
+    QTest::newRow("true")  << flags("true")  << "" << false << "ch_multipage_pdf=checked; ch_exe=checked; protect=true; cd_extract_text=checked; saveAsOnly=true";
+    QTest::newRow("TRUE")  << flags("TRUE")  << "" << false << "ch_multipage_pdf=checked; ch_exe=checked; protect=true; cd_extract_text=unchecked; saveAsOnly=false";
+    QTest::newRow("FaLsE") << flags("FaLsE") << "" << false << "ch_multipage_pdf=unchecked; ch_exe=unchecked; protect=false; cd_extract_text=unchecked";
+    QTest::newRow("0")     << flags("0")     << "" << false << "ch_multipage_pdf=unchecked; ch_exe=unchecked; protect=false";
+    QTest::newRow("empty") << flags("")      << "" << false << "ch_multipage_pdf=unchecked; ch_exe=unchecked; protect=false";
+
+    QTest::newRow("folder without separator") << "path=/out"                             << "" << false << "le_filename=/outDocument1";
+    // "pw" scrambled: p, 'p' - 0, w, 'w' - 1.
+    QTest::newRow("password, protected")      << "protect_swf=ppwv\nb_protect_swf=true"  << "" << false << "le_swf_protect=pw; ch_swf_protect=checked";
+    QTest::newRow("password, unprotected")    << "protect_swf=ppwv\nb_protect_swf=false" << "" << false << "le_swf_protect=pw; ch_swf_protect=unchecked";
+    QTest::newRow("first page numbering")     << "prefix_firstpage=true"                 << "" << false << "rb_pefix_1=checked; rb_pefix_custom=unchecked; customEnabled=false";
+    QTest::newRow("quality too high")         << "q_jpg=500"                             << "" << false << "spb_q_jpg=100";
+    QTest::newRow("quality not a number")     << "q_jpg=abc"                             << "" << false << "spb_q_jpg=1";
+
+    QTest::newRow("machine says all")   << "format=gif" << all + "true\nformat=pdf"  << false << "allUsers=true; format=pdf";
+    QTest::newRow("all, nothing there") << "format=gif" << all + "1"                 << false << "allUsers=true; format=tif";
+    QTest::newRow("machine says no")    << ""           << all + "false\nformat=pdf" << false << "allUsers=false; format=tif";
+    QTest::newRow("only user says all") << all + "true\nformat=gif" << "format=pdf"  << false << "allUsers=false; format=gif";
+
+    QTest::newRow("unknown style")       << "style=Motif"          << "" << false << "style=fusion";
+    QTest::newRow("lower case, by name") << "style=windows"        << "" << false << "style=windows";
+    QTest::newRow("Windows")             << "style=Windows"        << "" << false << "style=windowsmodernstyle";
+    QTest::newRow("inside a word")       << "style=MyWindowsTheme" << "" << false << "style=windowsmodernstyle";
     // clang-format on
 }
 
-void tst_LoadSave::colourSelection()
+void tst_LoadSave::loading()
 {
-    QFETCH(QByteArray, ini);
-    QFETCH(int, items);
-    QFETCH(int, row);
-    QFETCH(QString, code);
-    open(ini);
-    QCOMPARE(widget<QComboBox>("cb_combobox")->count(), items);
-    QCOMPARE(widget<QComboBox>("cb_combobox")->currentIndex(), row);
-    QCOMPARE(jobSettings().colorCode, code);
-}
-
-void tst_LoadSave::flagTexts_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<bool>("asFlag"); // string-to-boolean conversion
-    QTest::addColumn<bool>("asExact"); // compared with "true"
-
-    QTest::newRow("true") << QByteArray("true") << true << true;
-    QTest::newRow("TRUE") << QByteArray("TRUE") << true << false;
-    QTest::newRow("0") << QByteArray("0") << false << false;
-    QTest::newRow("empty") << QByteArray("") << false << false;
-    QTest::newRow("yes") << QByteArray("yes") << true << false;
-}
-
-void tst_LoadSave::flagTexts()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(bool, asFlag);
-    QFETCH(bool, asExact);
-    open("multipage_pdf=" + text + "\nload_ext_app=" + text + "\npdf_protect=" + text
-        + "\nextract_text=" + text + "\nchDialog_SaveAs=" + text);
-    QCOMPARE(widget<QCheckBox>("ch_multipage_pdf")->isChecked(), asFlag);
-    QCOMPARE(widget<QCheckBox>("ch_exe")->isChecked(), asFlag);
-    QCOMPARE(jobSettings().pdf.protect, asFlag);
-    QCOMPARE(widget<QCheckBox>("cd_extract_text")->isChecked(), asExact);
-    QCOMPARE(jobSettings().saveAsOnly, asExact);
-}
-
-void tst_LoadSave::storedValuesShown_data()
-{
-    QTest::addColumn<QString>("ini");
-    QTest::addColumn<QString>("fileName"); // le_filename
-    QTest::addColumn<QString>("password"); // le_swf_protect
-    QTest::addColumn<bool>("protect"); // ch_swf_protect
-    QTest::addColumn<bool>("firstPage"); // rb_pefix_1 checked, le_pr_custom disabled
-    QTest::addColumn<int>("quality"); // spb_q_jpg, bounded by the spin box
-
-    const QString pw = QLatin1String("protect_swf=") + scramblePassword(QStringLiteral("pw"));
-    // clang-format off
-    QTest::newRow("folder without")         << "path=/out"               << "/outDocument1"  << ""   << false << false << 100;
-    QTest::newRow("password, protected")    << pw + "\nb_protect_swf=true"  << "Document1"   << "pw" << true  << false << 100;
-    QTest::newRow("password, unprotected")  << pw + "\nb_protect_swf=false" << "Document1"   << "pw" << false << false << 100;
-    QTest::newRow("first page numbering")   << "prefix_firstpage=true"   << "Document1"      << ""   << false << true  << 100;
-    QTest::newRow("quality too high")       << "q_jpg=500"               << "Document1"      << ""   << false << false << 100;
-    QTest::newRow("quality not a number")   << "q_jpg=abc"               << "Document1"      << ""   << false << false << 1;
-    // clang-format on
-}
-
-void tst_LoadSave::storedValuesShown()
-{
-    QFETCH(QString, ini);
-    QFETCH(QString, fileName);
-    QFETCH(QString, password);
-    QFETCH(bool, protect);
-    QFETCH(bool, firstPage);
-    QFETCH(int, quality);
-    {
-        // Through the store, so the scrambled text is escaped as the program writes it.
-        SettingsKey key(SettingsScope::User);
-        for (const QString &line : ini.split(QLatin1Char('\n')))
-            key.setValue(line.section(QLatin1Char('='), 0, 0), line.section(QLatin1Char('='), 1));
+    QFETCH(QString, user);
+    QFETCH(QString, machine);
+    QFETCH(bool, djvu);
+    QFETCH(QString, expected);
+    writeFile(SettingsKey::fileName(SettingsScope::Machine), "[General]\n" + machine.toUtf8());
+    open(user.toUtf8(), djvu);
+    for (const QString &pair : expected.split(QStringLiteral("; "))) {
+        const QString what = pair.section(QLatin1Char('='), 0, 0);
+        QCOMPARE(what + QLatin1Char('=') + observe(what), pair);
     }
-    open();
-    QCOMPARE(state("le_filename"), fileName);
-    QCOMPARE(state("le_swf_protect"), password);
-    QCOMPARE(widget<QGroupBox>("ch_swf_protect")->isChecked(), protect);
-    QCOMPARE(widget<QRadioButton>("rb_pefix_1")->isChecked(), firstPage);
-    QCOMPARE(widget<QRadioButton>("rb_pefix_custom")->isChecked(), !firstPage);
-    QCOMPARE(widget<QLineEdit>("le_pr_custom")->isEnabled(), !firstPage);
-    QCOMPARE(widget<QSpinBox>("spb_q_jpg")->value(), quality);
+}
+
+QString tst_LoadSave::observe(const QString &what) const
+{
+    const JobSettings &job = jobSettings();
+    const auto yesNo
+        = [](bool on) { return on ? QStringLiteral("true") : QStringLiteral("false"); };
+    const QComboBox *colours = widget<QComboBox>("cb_combobox");
+    if (what == QLatin1String("format"))
+        return job.formatToken;
+    if (what == QLatin1String("colour"))
+        return job.colorCode;
+    if (what == QLatin1String("page"))
+        return QString::number(widget<QTabWidget>("tabWidget")->currentIndex());
+    if (what == QLatin1String("rows"))
+        return QStringLiteral("%1/%2").arg(colours->currentIndex()).arg(colours->count());
+    if (what == QLatin1String("protect"))
+        return yesNo(job.pdf.protect);
+    if (what == QLatin1String("saveAsOnly"))
+        return yesNo(job.saveAsOnly);
+    if (what == QLatin1String("allUsers"))
+        return yesNo(job.allUsers);
+    if (what == QLatin1String("customEnabled"))
+        return yesNo(widget<QLineEdit>("le_pr_custom")->isEnabled());
+    if (what == QLatin1String("style"))
+        return QApplication::style()->name();
+    return state(what.toLatin1().constData());
 }
 
 void tst_LoadSave::oneSidedValuesNeverSwitchOff()
@@ -358,53 +319,6 @@ void tst_LoadSave::oneSidedValuesNeverSwitchOff()
     QCOMPARE(state("ch_swf_animate"), QStringLiteral("checked"));
     QVERIFY(jobSettings().saveAsOnly);
     QCOMPARE(state("ch_multipage_tiff"), QStringLiteral("unchecked"));
-}
-
-void tst_LoadSave::keyChosen_data()
-{
-    QTest::addColumn<QByteArray>("machine");
-    QTest::addColumn<QByteArray>("user");
-    QTest::addColumn<bool>("allUsers");
-    QTest::addColumn<QString>("format");
-
-    // clang-format off
-    QTest::newRow("machine says all")   << QByteArray("settings_for_all_users=true\nformat=pdf") << QByteArray("format=gif") << true  << "pdf";
-    QTest::newRow("all, nothing there") << QByteArray("settings_for_all_users=1")                << QByteArray("format=gif") << true  << "tif";
-    QTest::newRow("machine says no")    << QByteArray("settings_for_all_users=false\nformat=pdf") << QByteArray("")          << false << "tif";
-    QTest::newRow("only user says all") << QByteArray("format=pdf") << QByteArray("settings_for_all_users=true\nformat=gif") << false << "gif";
-    // clang-format on
-}
-
-void tst_LoadSave::keyChosen()
-{
-    QFETCH(QByteArray, machine);
-    QFETCH(QByteArray, user);
-    QFETCH(bool, allUsers);
-    QFETCH(QString, format);
-    writeFile(SettingsKey::fileName(SettingsScope::Machine), "[General]\n" + machine + "\n");
-    open(user);
-    QCOMPARE(jobSettings().allUsers, allUsers);
-    QCOMPARE(jobSettings().formatToken, format);
-}
-
-void tst_LoadSave::style_data()
-{
-    QTest::addColumn<QByteArray>("style");
-    QTest::addColumn<QString>("expected"); // name of the style in use afterwards
-
-    QTest::newRow("none") << QByteArray() << "fusion";
-    QTest::newRow("unknown") << QByteArray("Motif") << "fusion";
-    QTest::newRow("lower case, by name") << QByteArray("windows") << "windows";
-    QTest::newRow("Windows") << QByteArray("Windows") << "windowsmodernstyle";
-    QTest::newRow("inside a word") << QByteArray("MyWindowsTheme") << "windowsmodernstyle";
-}
-
-void tst_LoadSave::style()
-{
-    QFETCH(QByteArray, style);
-    QFETCH(QString, expected);
-    open("style=" + style);
-    QCOMPARE(QApplication::style()->name(), expected);
 }
 
 void tst_LoadSave::saveOrder_data()
