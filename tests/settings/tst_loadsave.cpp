@@ -1,7 +1,6 @@
 #include "formatcatalogue.h"
 #include "jobsettings.h"
 #include "mainwindow.h"
-#include "passwordscrambling.h"
 #include "settingskey.h"
 
 #include <QApplication>
