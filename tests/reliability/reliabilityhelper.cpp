@@ -73,7 +73,9 @@ void pressPrintWhenShown()
     auto *timer = new QTimer(QCoreApplication::instance());
     QObject::connect(timer, &QTimer::timeout, [timer] {
         static int ticks = 0;
-        if (QWidget *modal = QApplication::activeModalWidget()) {
+        // The main dialog is modal itself; only another modal window stands in the way.
+        QWidget *modal = QApplication::activeModalWidget();
+        if (modal && !qobject_cast<MainWindow *>(modal)) {
             modal->close();
             return;
         }

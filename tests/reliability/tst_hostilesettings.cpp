@@ -263,6 +263,8 @@ void tst_HostileSettings::programExitsZero()
     QCOMPARE(program.exitCode(), 0);
     QVERIFY2(output.contains("exit-status 0"), output.constData());
     QVERIFY2(!output.contains("forced-close"), "Print did not close the dialog");
+    if (!user.startsWith("chDialog_SaveAs=true"))
+        QVERIFY2(output.contains("closed-by-print"), output.constData());
 }
 
 void tst_HostileSettings::cleanupTestCase()
