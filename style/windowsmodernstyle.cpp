@@ -287,8 +287,8 @@ QRect WindowsModernStyle::subElementRect(
 {
     const QRect rect = QProxyStyle::subElementRect(element, option, widget);
     switch (element) {
-    // Main-window tabs use the plain common geometry rather than the base's, whose offsets would
-    // open a gap between the tabs and the pane; the contents fill the whole pane on purpose.
+    // Main-window tabs keep the plain common geometry whatever the base adds for tab bar and
+    // pane, and their pages fill the whole pane on purpose.
     case SE_TabWidgetTabBar:
         if (isMainWindowTabWidget(widget))
             return QCommonStyle::subElementRect(SE_TabWidgetTabBar, option, widget);

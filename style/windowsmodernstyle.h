@@ -44,6 +44,7 @@ public:
         const QWidget *widget = nullptr) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contentsSize,
         const QWidget *widget = nullptr) const override;
+    // Answered by layoutSpacingImplementation(), which holds the rule.
     int layoutSpacing(QSizePolicy::ControlType control1, QSizePolicy::ControlType control2,
         Qt::Orientation orientation, const QStyleOption *option = nullptr,
         const QWidget *widget = nullptr) const override;
