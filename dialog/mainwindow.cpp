@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QKeyEvent>
+#include <QSignalBlocker>
 
 #include <cstring>
 
@@ -186,4 +187,31 @@ void MainWindow::keyPressEvent(QKeyEvent *event)
     // Return and keypad Enter print from anywhere; every other key stops here.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         pb_print();
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+}
+
+// The form's text operation also empties the file name, resets the custom number and renames the
+// first two colour items; a language change must change the words and nothing the user chose.
+// The colour items stay as they are: their texts are what the colour lookup reads.
+void MainWindow::retranslate()
+{
+    const QString fileName = ui->le_filename->text();
+    const QString customNumber = ui->le_pr_custom->text();
+    QStringList colorItems;
+    for (int row = 0; row < ui->cb_combobox->count(); ++row)
+        colorItems << ui->cb_combobox->itemText(row);
+
+    const QSignalBlocker numberBlocker(ui->le_pr_custom);
+    const QSignalBlocker colorBlocker(ui->cb_combobox);
+    ui->retranslateUi(this);
+    ui->le_filename->setText(fileName);
+    ui->le_pr_custom->setText(customNumber);
+    for (int row = 0; row < colorItems.size(); ++row)
+        ui->cb_combobox->setItemText(row, colorItems.at(row));
 }

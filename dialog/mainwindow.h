@@ -66,9 +66,11 @@ public slots:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void setCompression(const char *code, bool state);
+    void retranslate();
 
     Ui::MainWindow *ui;
     QString compression;

@@ -16,6 +16,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QTranslator>
 
 #include <memory>
 
@@ -72,6 +73,19 @@ void typeText(QWidget *widget, const QString &text)
     }
 }
 
+// Marks every text of the main window's context, as a translation would change it.
+class MarkingTranslator : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        if (qstrcmp(context, "MainWindow") != 0)
+            return QString();
+        return QLatin1Char('~') + QString::fromUtf8(source);
+    }
+};
+
 } // namespace
 
 class MainWindowTest : public QObject
@@ -101,6 +115,7 @@ private slots:
     void keys_data();
     void keys();
     void advancedDropsTopmost();
+    void languageChangeKeepsChoices();
 
 private:
     void open(bool withConverter = true);
@@ -546,6 +561,36 @@ void MainWindowTest::advancedDropsTopmost()
     // The dialog is gone once it returned.
     for (QWidget *top : QApplication::topLevelWidgets())
         QVERIFY(!qobject_cast<pdfprotect *>(top));
+}
+
+void MainWindowTest::languageChangeKeepsChoices()
+{
+    open(false);
+    tabs->setCurrentIndex(Formats::Gif);
+    colours->setCurrentIndex(2);
+    QLineEdit *fileName = child<QLineEdit>("le_filename");
+    QLineEdit *number = child<QLineEdit>("le_pr_custom");
+    fileName->setText(QStringLiteral("/tmp/out/report"));
+    number->setText(QStringLiteral("42"));
+
+    MarkingTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    QTRY_COMPARE(window->windowTitle(), QStringLiteral("~Vellumio"));
+    QCOMPARE(child<QAbstractButton>("pb_print")->text(), QStringLiteral("~Print"));
+    QCOMPARE(tabs->tabText(Formats::Excel), QStringLiteral("~XLS"));
+    QCOMPARE(tabs->count(), 11);
+
+    // Only the words change: the file, the number and the colour choice stay.
+    QCOMPARE(fileName->text(), QStringLiteral("/tmp/out/report"));
+    QCOMPARE(number->text(), QStringLiteral("42"));
+    QCOMPARE(jobSettings().customNumber, QStringLiteral("42"));
+    QCOMPARE(itemsOf(colours), gifModes);
+    QCOMPARE(colours->currentIndex(), 2);
+    QCOMPARE(jobSettings().colorCode, QStringLiteral("24g"));
+
+    QCoreApplication::removeTranslator(&translator);
+    QTRY_COMPARE(window->windowTitle(), QStringLiteral("Vellumio"));
+    QCOMPARE(fileName->text(), QStringLiteral("/tmp/out/report"));
 }
 
 QTEST_MAIN(MainWindowTest)
