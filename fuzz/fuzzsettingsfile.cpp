@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QtPlugin>
 
 #include <cstddef>
 #include <cstdint>
@@ -14,6 +15,9 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+// As in the program, so that a stored style name can reach the modern style.
+Q_IMPORT_PLUGIN(WindowsModernStylePlugin)
 
 namespace {
 
@@ -75,8 +79,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     job.newFileName = QStringLiteral("Document1");
     job.converterPath = size % 2 ? existingFile : QString();
 
+    // Shown and painted, so the style draws whatever the file put into the widgets.
     MainWindow window;
-    window.saveAllSettings();
+    window.show();
     QCoreApplication::processEvents();
+    window.saveAllSettings();
+    window.close();
     return 0;
 }

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QTimer>
+#include <QtPlugin>
 
 #include <csignal>
 #include <cstdio>
@@ -112,6 +113,9 @@ void installRunHooks()
 } // namespace
 
 Q_COREAPP_STARTUP_FUNCTION(installRunHooks)
+
+// As in the program: the modern style is linked in and found by name.
+Q_IMPORT_PLUGIN(WindowsModernStylePlugin)
 
 int main(int argc, char *argv[])
 {

@@ -9,6 +9,7 @@
 #include <QSettings>
 #include <QTabWidget>
 #include <QTest>
+#include <QtPlugin>
 
 #include <unistd.h>
 
@@ -46,6 +47,9 @@ private:
 };
 
 Q_DECLARE_METATYPE(tst_HostileSettings::Shape)
+
+// As in the program, so that the modern style draws what a hostile file put into the widgets.
+Q_IMPORT_PLUGIN(WindowsModernStylePlugin)
 
 namespace {
 
@@ -112,12 +116,12 @@ void tst_HostileSettings::addRows()
     QTest::addColumn<int>("page"); // format page the dialog opens on, -1 when any will do
 
     const QByteArray png = "format=png\n";
-    QTest::newRow("megabyte values")
-        << Shape::File
-        << "format=pdf\npdf_title=" + repeated('t', 4 << 20) + "\nPath=" + repeated('p', 1 << 20)
+    QTest::newRow("megabyte values") << Shape::File
+                                     << "format=pdf\nstyle=WindowsXP\npdf_title="
+            + repeated('t', 4 << 20) + "\nPath=" + repeated('p', 1 << 20)
             + "\nprotect_swf=" + repeated('s', 2 << 20) + "\nimage_color=" + repeated('8', 1 << 20)
             + "\ncustom_number=" + repeated('7', 1 << 20) + "\n"
-        << QByteArray() << 7;
+                                     << QByteArray() << 7;
     QTest::newRow("megabyte value name") << Shape::File << png + repeated('k', 1 << 20) + "=v\n"
                                          << QByteArray() << 1;
     QTest::newRow("thousands of unknown values")
@@ -125,8 +129,9 @@ void tst_HostileSettings::addRows()
     QTest::newRow("thousands of groups") << Shape::File << manyGroups(5000) << QByteArray() << 5;
     QTest::newRow("invalid UTF-8")
         << Shape::File
-        << QByteArray("format=\xff\xfe\nPath=\xc3\x28/\xed\xa0\x80/\nnewfilename=\xf8\x88\x80\x80\n"
-                      "pdf_title=\x80\x81\n\xff\xfe=\xc0\xaf\nprotect_swf=\xc3\nstyle=\xe2\x82\n")
+        << QByteArray(
+               "format=\xff\xfe\nPath=\xc3\x28/\xed\xa0\x80/\nnewfilename=\xf8\x88\x80\x80\n"
+               "pdf_title=\x80\x81\n\xff\xfe=\xc0\xaf\nprotect_swf=\xc3\nstyle=Windows\xe2\x82\n")
         << QByteArray() << 2;
     QTest::newRow("NUL and control characters")
         << Shape::File << QByteArray("format=pdf\0tail\n\x01\x02=\x03\nq_pdf=\x1b[31m\n", 39)
@@ -204,6 +209,8 @@ void tst_HostileSettings::dialogOpensAndPrints()
     MainWindow window;
     ++filesTried;
     window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCoreApplication::processEvents();
     if (page >= 0)
         QCOMPARE(window.findChild<QTabWidget *>(QStringLiteral("tabWidget"))->currentIndex(), page);
 
