@@ -1,5 +1,6 @@
 #include "formatcatalogue.h"
 #include "jobsettings.h"
+#include "markingtranslator.h"
 #include "mainwindow.h"
 #include "pdfprotect.h"
 #include "prompts.h"
@@ -16,7 +17,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
-#include <QTranslator>
 
 #include <memory>
 
@@ -72,19 +72,6 @@ void typeText(QWidget *widget, const QString &text)
         QCoreApplication::sendEvent(widget, &release);
     }
 }
-
-// Marks every text of the main window's context, as a translation would change it.
-class MarkingTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *source, const char *, int) const override
-    {
-        if (qstrcmp(context, "MainWindow") != 0)
-            return QString();
-        return QLatin1Char('~') + QString::fromUtf8(source);
-    }
-};
 
 } // namespace
 
@@ -573,7 +560,7 @@ void MainWindowTest::languageChangeKeepsChoices()
     fileName->setText(QStringLiteral("/tmp/out/report"));
     number->setText(QStringLiteral("42"));
 
-    MarkingTranslator translator;
+    MarkingTranslator translator("MainWindow");
     QVERIFY(QCoreApplication::installTranslator(&translator));
     QTRY_COMPARE(window->windowTitle(), QStringLiteral("~Vellumio"));
     QCOMPARE(child<QAbstractButton>("pb_print")->text(), QStringLiteral("~Print"));
