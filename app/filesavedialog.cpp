@@ -13,44 +13,6 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QStringList>
-
-namespace {
-
-// The filter text of a format with its stored extension.
-QString filterOf(Formats::Index index)
-{
-    return Formats::filterText(*Formats::byIndex(index), jobSettings().extension(index));
-}
-
-// Unlike the main dialog's Save As, this list offers HTML, as its last entry.
-QString filterList(bool djvuAvailable)
-{
-    QStringList filters;
-    for (Formats::Index index : {Formats::Bmp, Formats::Png, Formats::Tiff, Formats::Jpeg,
-             Formats::Jpeg2000, Formats::Gif, Formats::Pdf, Formats::Swf})
-        filters << filterOf(index);
-    if (djvuAvailable)
-        filters << filterOf(Formats::Djvu);
-    filters << filterOf(Formats::Rtf) << filterOf(Formats::Excel) << filterOf(Formats::Html);
-    return filters.join(QStringLiteral(";;"));
-}
-
-// The token of a chosen filter, first match deciding; empty when none matches. RTF is compared
-// with its fixed text whatever the RTF extension setting holds, as the driver expects.
-QString formatOfFilter(const QString &filter)
-{
-    for (Formats::Index index : {Formats::Html, Formats::Bmp, Formats::Png, Formats::Tiff,
-             Formats::Jpeg, Formats::Jpeg2000, Formats::Gif, Formats::Pdf, Formats::Swf,
-             Formats::Rtf, Formats::Djvu, Formats::Excel}) {
-        const QString text = index == Formats::Rtf ? Formats::fixedRtfFilter() : filterOf(index);
-        if (filter == text)
-            return QLatin1String(Formats::byIndex(index)->token);
-    }
-    return QString();
-}
-
-} // namespace
 
 FileSaveDialog::FileSaveDialog(QWidget *parent)
     : QDialog(parent)
@@ -67,7 +29,9 @@ FileSaveDialog::~FileSaveDialog()
 QString FileSaveDialog::askFileName(
     const QString &initialPath, QString *selectedFilter, QString *format)
 {
-    const QString filters = filterList(djvuAvailable);
+    // Unlike the main dialog's Save As, this one offers HTML, as its last entry.
+    const QString filters = Formats::saveAsFilterList(
+        jobSettings().extensions, djvuAvailable, Formats::SaveAsOffer::SaveAsOnly);
 
     // The native window is created first so that the frame is known, as far as it can be.
     winId();
@@ -82,7 +46,8 @@ QString FileSaveDialog::askFileName(
     const QString name = Prompts::current().saveFileName(
         this, tr("Save File As..."), initialPath, filters, selectedFilter);
     if (!name.isEmpty())
-        *format = formatOfFilter(*selectedFilter);
+        *format = Formats::tokenOfSaveAsFilter(
+            *selectedFilter, jobSettings().extensions, Formats::SaveAsOffer::SaveAsOnly);
     return name;
 }
 

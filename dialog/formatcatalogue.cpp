@@ -92,6 +92,43 @@ QString fixedRtfFilter()
     return QStringLiteral("RTF Format (*.rtf)");
 }
 
+namespace {
+
+// The formats a Save As dialog offers, in the order of its list.
+QList<Index> saveAsFormats(bool withDjvu, SaveAsOffer offer)
+{
+    QList<Index> formats = {Bmp, Png, Tiff, Jpeg, Jpeg2000, Gif, Pdf, Swf};
+    if (withDjvu)
+        formats << Djvu;
+    formats << Rtf << Excel;
+    if (offer == SaveAsOffer::SaveAsOnly)
+        formats << Html;
+    return formats;
+}
+
+} // namespace
+
+QString saveAsFilterList(const Extensions &extensions, bool withDjvu, SaveAsOffer offer)
+{
+    QStringList filters;
+    for (Index index : saveAsFormats(withDjvu, offer))
+        filters << filterText(formatTable[index], extensions[index]);
+    return filters.join(QLatin1String(";;"));
+}
+
+QString tokenOfSaveAsFilter(const QString &filter, const Extensions &extensions, SaveAsOffer offer)
+{
+    // The labels differ, so at most one filter matches and the order of the tests cannot matter.
+    for (Index index : saveAsFormats(true, offer)) {
+        const Format &format = formatTable[index];
+        const QString text
+            = index == Rtf ? fixedRtfFilter() : filterText(format, extensions[index]);
+        if (filter == text)
+            return QLatin1String(format.token);
+    }
+    return QString();
+}
+
 const std::array<ColorMode, 4> &colorModes()
 {
     return colorModeTable;

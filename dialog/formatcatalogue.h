@@ -53,6 +53,23 @@ QString filterText(const Format &format, const QString &extension);
 // The fixed RTF filter the file dialogs compare with, whatever the RTF extension setting holds.
 QString fixedRtfFilter();
 
+// The stored file extension of every format, by index.
+using Extensions = std::array<QString, Count>;
+
+// Which Save As a filter list is for: the main dialog's leaves HTML out, the save-as-only
+// dialog's offers it last.
+enum class SaveAsOffer { MainDialog, SaveAsOnly };
+
+// The filters of a Save As dialog joined by ";;", in their own order rather than the page order:
+// BMP, PNG, TIFF, JPEG, JPEG2000, GIF, PDF, SWF, DjVu (only with the converter), RTF, MS Excel,
+// then HTML for the save-as-only dialog.
+QString saveAsFilterList(const Extensions &extensions, bool withDjvu, SaveAsOffer offer);
+
+// The token of the filter chosen in a Save As dialog; empty when no offered filter matches. RTF
+// is recognised only by its fixed text, so another RTF extension yields no format, as the driver
+// has always seen it.
+QString tokenOfSaveAsFilter(const QString &filter, const Extensions &extensions, SaveAsOffer offer);
+
 // Colour modes and the colour code each one selects ("1", "8", "24g", "24").
 struct ColorMode
 {

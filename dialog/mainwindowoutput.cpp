@@ -10,7 +10,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QStringList>
 
 namespace {
 
@@ -18,35 +17,6 @@ namespace {
 QString filterOf(Formats::Index index)
 {
     return Formats::filterText(*Formats::byIndex(index), jobSettings().extension(index));
-}
-
-// The formats Save As offers, in their own order rather than the page order. HTML is left out on
-// purpose: it cannot be chosen from the main dialog's Save As.
-QString saveAsFilterList(bool djvuAvailable)
-{
-    QStringList filters;
-    for (Formats::Index index : {Formats::Bmp, Formats::Png, Formats::Tiff, Formats::Jpeg,
-             Formats::Jpeg2000, Formats::Gif, Formats::Pdf, Formats::Swf})
-        filters << filterOf(index);
-    if (djvuAvailable)
-        filters << filterOf(Formats::Djvu);
-    filters << filterOf(Formats::Rtf) << filterOf(Formats::Excel);
-    return filters.join(QLatin1String(";;"));
-}
-
-// The format token of the filter chosen in Save As; empty when none matches. RTF is recognised
-// only by its fixed text, so another RTF extension setting yields no format, as the driver expects.
-QString formatOfFilter(const QString &filter)
-{
-    QString token;
-    for (Formats::Index index :
-        {Formats::Bmp, Formats::Png, Formats::Tiff, Formats::Jpeg, Formats::Jpeg2000, Formats::Gif,
-            Formats::Pdf, Formats::Swf, Formats::Rtf, Formats::Djvu, Formats::Excel}) {
-        const QString text = index == Formats::Rtf ? Formats::fixedRtfFilter() : filterOf(index);
-        if (filter == text)
-            token = QLatin1String(Formats::byIndex(index)->token);
-    }
-    return token;
 }
 
 } // namespace
@@ -91,13 +61,16 @@ void MainWindow::pb_filename()
     JobSettings &job = jobSettings();
     updateSelectedFilter();
     QString result = Prompts::current().saveFileName(this, tr("Save File As..."),
-        fullOutputFileName(), saveAsFilterList(djvuAvailable), &job.selectedFilter);
+        fullOutputFileName(),
+        Formats::saveAsFilterList(job.extensions, djvuAvailable, Formats::SaveAsOffer::MainDialog),
+        &job.selectedFilter);
     // Set even when cancelled: Print then never asks the overwrite question.
     nameChosenByDialog = true;
 
     QString chosen;
     if (!result.isEmpty())
-        chosen = formatOfFilter(job.selectedFilter);
+        chosen = Formats::tokenOfSaveAsFilter(
+            job.selectedFilter, job.extensions, Formats::SaveAsOffer::MainDialog);
     if (result.size() < 4)
         return;
 
