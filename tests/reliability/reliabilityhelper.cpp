@@ -26,7 +26,11 @@
 //   it is shown
 namespace {
 
-void saveTagged(const QString &tag, int filler, const QString &folder)
+void say(const char *what, int round);
+
+// One job: a new window loads the key, takes the tagged values and saves them. In the loop mode
+// it tells when the save itself begins, so that a kill can be aimed at it.
+void saveTagged(const QString &tag, int filler, const QString &folder, int round = -1)
 {
     JobSettings &job = jobSettings();
     job = JobSettings();
@@ -39,6 +43,8 @@ void saveTagged(const QString &tag, int filler, const QString &folder)
     job.pdf.userPassword = tag;
     window.findChild<QLineEdit *>(QStringLiteral("le_filename"))
         ->setText(folder + QLatin1Char('/') + tag);
+    if (round >= 0)
+        say("writing", round);
     window.saveAllSettings();
 }
 
@@ -142,7 +148,7 @@ int main(int argc, char *argv[])
         const int writer = args.at(2).toInt();
         for (int round = 0;; ++round) {
             say("saving", round);
-            saveTagged(TaggedValue::tag(writer, round), args.at(3).toInt(), args.at(4));
+            saveTagged(TaggedValue::tag(writer, round), args.at(3).toInt(), args.at(4), round);
             say("saved", round);
         }
     }
