@@ -83,13 +83,16 @@ void SettingsKey::setValue(const QString &name, const QVariant &value)
         writeObserver(m_scope, name, value);
     prepareFileForWriting();
 
-    const QStringList stored = m_settings.allKeys();
-    for (const QString &other : stored) {
-        if (other != name && other.compare(name, Qt::CaseInsensitive) == 0)
+    indexStoredNames();
+    const QString fold = name.toLower();
+    const QStringList spellings = m_namesByFold.values(fold);
+    for (const QString &other : spellings) {
+        if (other != name)
             m_settings.remove(other);
     }
+    m_namesByFold.remove(fold);
+    m_namesByFold.insert(fold, name);
     m_settings.setValue(name, value);
-    m_namesByFold.insert(name.toLower(), name);
 }
 
 QString SettingsKey::fileName(SettingsScope scope)
@@ -108,13 +111,18 @@ QString SettingsKey::storedName(const QString &name) const
 {
     if (m_settings.contains(name))
         return name;
-    if (!m_namesIndexed) {
-        const QStringList stored = m_settings.allKeys();
-        for (const QString &key : stored)
-            m_namesByFold.insert(key.toLower(), key);
-        m_namesIndexed = true;
-    }
+    indexStoredNames();
     return m_namesByFold.value(name.toLower());
+}
+
+void SettingsKey::indexStoredNames() const
+{
+    if (m_namesIndexed)
+        return;
+    m_namesIndexed = true;
+    const QStringList stored = m_settings.allKeys();
+    for (const QString &key : stored)
+        m_namesByFold.insert(key.toLower(), key);
 }
 
 void SettingsKey::prepareFileForWriting()

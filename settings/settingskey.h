@@ -49,12 +49,14 @@ public:
 
 private:
     QString storedName(const QString &name) const;
+    void indexStoredNames() const;
     void prepareFileForWriting();
 
     SettingsScope m_scope;
     QSettings m_settings;
-    // Stored names by their lower-case form, built on the first lookup that misses.
-    mutable QHash<QString, QString> m_namesByFold;
+    // Stored names by their lower-case form, built when first needed; a file edited by hand may
+    // hold several spellings of one name.
+    mutable QMultiHash<QString, QString> m_namesByFold;
     mutable bool m_namesIndexed = false;
     bool m_filePrepared = false;
 };
