@@ -133,9 +133,9 @@ void tst_HostileSettings::addRows()
                "format=\xff\xfe\nPath=\xc3\x28/\xed\xa0\x80/\nnewfilename=\xf8\x88\x80\x80\n"
                "pdf_title=\x80\x81\n\xff\xfe=\xc0\xaf\nprotect_swf=\xc3\nstyle=Windows\xe2\x82\n")
         << QByteArray() << 2;
+    static const char controls[] = "format=pdf\0tail\n\x01\x02=\x03\nq_pdf=\x1b[31m\n";
     QTest::newRow("NUL and control characters")
-        << Shape::File << QByteArray("format=pdf\0tail\n\x01\x02=\x03\nq_pdf=\x1b[31m\n", 39)
-        << QByteArray() << -1;
+        << Shape::File << QByteArray(controls, sizeof controls - 1) << QByteArray() << -1;
     QTest::newRow("random bytes") << Shape::File << randomBytes(7, 64 * 1024) << QByteArray() << -1;
     QTest::newRow("typed values of the wrong type")
         << Shape::File
