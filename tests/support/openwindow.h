@@ -1,0 +1,34 @@
+#ifndef FMTASK_TESTS_OPENWINDOW_H
+#define FMTASK_TESTS_OPENWINDOW_H
+
+#include "jobfixture.h"
+#include "scriptedprompts.h"
+
+#include <QLineEdit>
+#include <QTabWidget>
+
+// A main window on a fresh job in a temporary folder, with scripted answers, and its parts by
+// object name.
+struct OpenWindow
+{
+    explicit OpenWindow(bool converter)
+        : window(job.createWindow(converter))
+    { }
+
+    template<class T = QWidget>
+    T *part(const char *name) const
+    {
+        T *found = window->findChild<T *>(QLatin1String(name));
+        if (!found)
+            qFatal("no widget %s", name);
+        return found;
+    }
+    QTabWidget *tabs() const { return part<QTabWidget>("tabWidget"); }
+    QLineEdit *fileName() const { return part<QLineEdit>("le_filename"); }
+
+    JobFixture job;
+    ScriptedPrompts prompts;
+    std::unique_ptr<MainWindow> window;
+};
+
+#endif // FMTASK_TESTS_OPENWINDOW_H
