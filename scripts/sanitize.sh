@@ -12,6 +12,5 @@ cmake --build build-asan -j"$(nproc)"
 # A report makes the test program exit non-zero, so CTest counts it as a failed test.
 export ASAN_OPTIONS="detect_leaks=1:abort_on_error=1:strict_string_checks=1:detect_stack_use_after_return=1"
 export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
-export LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp:print_suppressions=0"
 export QT_QPA_PLATFORM=offscreen
 ctest --test-dir build-asan --output-on-failure -j"$(nproc)"
