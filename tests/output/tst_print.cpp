@@ -59,9 +59,8 @@ private slots:
             QVERIFY(QDir().mkpath(file));
         if (setup.contains("saveas"))
             w.window->pb_filename(); // cancelled: the name still counts as chosen there
-        w.prompts.answers << (setup.contains("Yes") ? QMessageBox::Yes : QMessageBox::No);
-        if (!setup.contains("Yes") && !setup.contains("No"))
-            w.prompts.answers.clear();
+        if (setup.contains("Yes") || setup.contains("No"))
+            w.prompts.answers << (setup.contains("Yes") ? QMessageBox::Yes : QMessageBox::No);
         w.window->show();
         WindowOrder::setTopmost(w.window.get());
         w.prompts.watched = w.window.get();
