@@ -130,8 +130,8 @@ private:
     }
     // Steps in turn: a number enters that page, "rb_..." is clicked with the mouse, "set:rb_..."
     // is checked from code, "=text" picks a colour, "?text" is reported as the list's text,
-    // "type:" and "paste:" edit the custom number, "key:widget:key" presses a key (on the window
-    // when no widget is named).
+    // "type:" and "paste:" edit the custom number, "key:widget:key" types a key (on the window
+    // when no widget is named; Enter is the keypad's).
     void run(const QString &steps)
     {
         w->fileName()->setText(w->job.path("missing/out"));
@@ -155,17 +155,14 @@ private:
                     QCoreApplication::sendEvent(custom, &press);
                 }
             else if (step.startsWith(QLatin1String("key:")))
-                pressKey(step.section(QLatin1Char(':'), 1, 1), step.section(QLatin1Char(':'), 2));
+                QTest::keyClick(step.section(':', 1, 1).isEmpty()
+                        ? window
+                        : w->part(step.section(':', 1, 1).toLatin1()),
+                    QKeySequence(step.section(':', 2))[0].key(),
+                    step.endsWith("Enter") ? Qt::KeypadModifier : Qt::NoModifier);
             else
                 tabs->setCurrentIndex(step.toInt());
         }
-    }
-    void pressKey(const QString &target, const QString &name)
-    {
-        const Qt::Key key = QKeySequence(name)[0].key();
-        QKeyEvent press(
-            QEvent::KeyPress, key, key == Qt::Key_Enter ? Qt::KeypadModifier : Qt::NoModifier);
-        QApplication::sendEvent(target.isEmpty() ? window : w->part(target.toLatin1()), &press);
     }
     // "[hidden ]items > current[ disabled] = colour code", "custom on|off text" (with "differs"
     // when the value does not follow the text), or "key printed|ignored[ topmost]"
@@ -173,18 +170,16 @@ private:
     {
         auto *custom = w->part<QLineEdit>("le_pr_custom");
         if (kind == QLatin1String("custom"))
-            return QLatin1String(custom->isEnabled() ? "custom on " : "custom off ")
-                + custom->text()
-                + QLatin1String(jobSettings().customNumber == custom->text() ? "" : " differs");
+            return (custom->isEnabled() ? "custom on " : "custom off ") + custom->text()
+                + (jobSettings().customNumber == custom->text() ? "" : " differs");
         if (kind == QLatin1String("key"))
-            return QLatin1String(w->prompts.questions.size() == 1 ? "key printed" : "key ignored")
-                + QLatin1String(WindowOrder::isTopmost(window) ? " topmost" : "");
+            return QString(w->prompts.questions.size() == 1 ? "key printed" : "key ignored")
+                + (WindowOrder::isTopmost(window) ? " topmost" : "");
         QStringList items;
         for (int row = 0; row < combo->count(); ++row)
             items << combo->itemText(row);
-        return QLatin1String(w->part("gb_color")->isVisible() ? "" : "hidden ")
-            + items.join(QLatin1Char(',')) + QLatin1String(" > ") + combo->currentText()
-            + QLatin1String(combo->isEnabled() ? "" : " disabled") + QLatin1String(" = ")
+        return (w->part("gb_color")->isVisible() ? "" : "hidden ") + items.join(',') + " > "
+            + combo->currentText() + (combo->isEnabled() ? "" : " disabled") + " = "
             + jobSettings().colorCode;
     }
 

@@ -109,18 +109,19 @@ private slots:
         QFETCH(bool, allUsers);
         QFETCH(bool, cancel);
         QFETCH(QString, outcome);
-        JobFixture job;
+        OpenWindow w(false);
+        JobFixture &job = w.job;
         const QByteArray machine = QByteArray("[General]\nisabort=false\nformat=bmp\n")
             + "settings_for_all_users=" + (allUsers ? "true" : "false") + '\n';
         const QByteArray user = "[General]\nisabort=false\nformat=png\nq_jpg=42\n";
         job.writeFile(job.machineFile(), machine);
         job.writeFile(job.userFile(), user);
-        ScriptedPrompts prompts;
-        auto window = job.createWindow(false);
+        w.window = job.createWindow(false); // loads the keys just written
+        MainWindow *window = w.window.get();
         window->show();
-        window->findChild<QTabWidget *>()->setCurrentIndex(Formats::Gif);
+        w.tabs()->setCurrentIndex(Formats::Gif);
         cancel ? window->pb_cancel() : void(window->close());
-        QVERIFY(!window->isVisible() && prompts.questions.isEmpty());
+        QVERIFY(!window->isVisible() && w.prompts.questions.isEmpty());
         QString found;
         for (const QString &key : {job.userFile(), job.machineFile()})
             found += JobFixture::valueOf(key, "isabort") + ' ' + JobFixture::valueOf(key, "format")

@@ -16,7 +16,6 @@ private slots:
         QTest::addColumn<QString>("converter");
         // clang-format off
         QTest::newRow("absolute")         << "/opt/vellumio/fmtask"    << "/opt/vellumio/dxconv";
-        QTest::newRow("bare name")        << "fmtask"                  << "dxconv";
         // The first occurrence is removed, wherever it stands.
         QTest::newRow("folder holds name") << "/opt/fmtask/fmtask"     << "/opt//fmtaskdxconv";
         QTest::newRow("suffix")           << "/opt/v/fmtask-old"       << "/opt/v/-olddxconv";
