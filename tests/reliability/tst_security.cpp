@@ -11,6 +11,7 @@
 
 #include <sys/inotify.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 // The user key holds the scrambled passwords: its file is for its owner only, also when an older
@@ -25,11 +26,14 @@ private slots:
     void userFileMode();
     void namedFilesUntouched_data();
     void namedFilesUntouched();
+    void linkedKeyTarget_data();
+    void linkedKeyTarget();
     void cleanupTestCase();
 
 private:
     int filesChecked = 0;
     int canaryRuns = 0;
+    int linkedKeys = 0;
 };
 
 namespace {
@@ -176,11 +180,62 @@ void tst_Security::namedFilesUntouched()
     QVERIFY2(!QFile::exists(marker), "the program ran a program named in its settings");
 }
 
+void tst_Security::linkedKeyTarget_data()
+{
+    QTest::addColumn<bool>("device"); // the link points to a device node, else to a 0644 file
+
+    QTest::newRow("key linked to a world-readable file") << false;
+    QTest::newRow("key linked to a device node") << true;
+}
+
+// A key file kept elsewhere through a link is the user's choice and is followed; but the save
+// must neither leave the passwords readable by others nor turn something that is not a file
+// into one. The device node is a private copy of the null device in the test's own folder.
+void tst_Security::linkedKeyTarget()
+{
+    QFETCH(bool, device);
+    ReliabilityFixture fixture;
+    QVERIFY(fixture.isValid());
+    const QString target = fixture.path(QStringLiteral("elsewhere"));
+    const QByteArray targetName = QFile::encodeName(target);
+    if (device) {
+        if (::mknod(targetName.constData(), S_IFCHR | 0666, makedev(1, 3)) != 0)
+            QSKIP("making a device node needs root");
+    } else {
+        QVERIFY(ReliabilityFixture::writeFile(target, "format=pdf\n"));
+        QVERIFY(::chmod(targetName.constData(), 0644) == 0);
+    }
+    QVERIFY(
+        ::symlink(targetName.constData(), QFile::encodeName(fixture.userFile()).constData()) == 0);
+
+    QProcess program;
+    fixture.prepare(&program);
+    program.setArguments({QStringLiteral("run"), QStringLiteral("Document1")});
+    program.start();
+    QVERIFY(program.waitForFinished(60000));
+    QCOMPARE(program.exitCode(), 0);
+    ++linkedKeys;
+
+    struct stat status
+    {
+    };
+    QVERIFY(::stat(targetName.constData(), &status) == 0);
+    if (device) {
+        QEXPECT_FAIL("key linked to a device node",
+            "the atomic save renames its new file over the link's target, whatever that is",
+            Continue);
+        QVERIFY(S_ISCHR(status.st_mode));
+    } else {
+        QVERIFY(S_ISREG(status.st_mode));
+        QCOMPARE(int(status.st_mode & 07777), 0600);
+    }
+}
+
 void tst_Security::cleanupTestCase()
 {
     qInfo("security: %d key files checked for mode 0600, %d runs with settings naming watched "
-          "files, files opened or run 0",
-        filesChecked, canaryRuns);
+          "files, files opened or run 0, %d runs with a linked key",
+        filesChecked, canaryRuns, linkedKeys);
 }
 
 QTEST_MAIN(tst_Security)
