@@ -8,9 +8,36 @@ namespace {
 
 SettingsKey::WriteObserver writeObserver = nullptr;
 
+const QString organisation = QStringLiteral("Tarnwick");
+const QString application = QStringLiteral("Vellumio");
+
 QSettings::Scope qtScope(SettingsScope scope)
 {
     return scope == SettingsScope::Machine ? QSettings::SystemScope : QSettings::UserScope;
+}
+
+#ifndef Q_OS_WIN
+// The file of a key, found without reading it: the organisation's own settings object names the
+// folder.
+QString keyFilePath(SettingsScope scope)
+{
+    const QSettings organisationKey(QSettings::NativeFormat, qtScope(scope), organisation);
+    return QFileInfo(organisationKey.fileName()).path() + QLatin1Char('/') + organisation
+        + QLatin1Char('/') + application + QLatin1String(".conf");
+}
+#endif
+
+// Opens a key. Opening reads its file at once, and reading a named pipe or a device would wait
+// for ever, so a key whose file is anything but a regular file is opened empty and unwritable.
+std::unique_ptr<QSettings> openKey(SettingsScope scope)
+{
+#ifndef Q_OS_WIN
+    const QFileInfo keyFile(keyFilePath(scope));
+    if (keyFile.exists() && !keyFile.isFile())
+        return std::make_unique<QSettings>(QString(), QSettings::IniFormat);
+#endif
+    return std::make_unique<QSettings>(
+        QSettings::NativeFormat, qtScope(scope), organisation, application);
 }
 
 constexpr QFileDevice::Permissions ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
@@ -22,11 +49,10 @@ constexpr QFileDevice::Permissions groupAndOthers = QFileDevice::ReadGroup | QFi
 
 SettingsKey::SettingsKey(SettingsScope scope)
     : m_scope(scope)
-    , m_settings(QSettings::NativeFormat, qtScope(scope), QStringLiteral("Tarnwick"),
-          QStringLiteral("Vellumio"))
+    , m_settings(openKey(scope))
 {
     // The user key must never show values of the all-users key.
-    m_settings.setFallbacksEnabled(false);
+    m_settings->setFallbacksEnabled(false);
 }
 
 SettingsKey::~SettingsKey() = default;
@@ -74,7 +100,7 @@ QVariant SettingsKey::value(const QString &name, const QVariant &defaultValue) c
     const QString stored = storedName(name);
     if (stored.isEmpty())
         return defaultValue;
-    return m_settings.value(stored, defaultValue);
+    return m_settings->value(stored, defaultValue);
 }
 
 void SettingsKey::setValue(const QString &name, const QVariant &value)
@@ -88,18 +114,21 @@ void SettingsKey::setValue(const QString &name, const QVariant &value)
     const QStringList spellings = m_namesByFold.values(fold);
     for (const QString &other : spellings) {
         if (other != name)
-            m_settings.remove(other);
+            m_settings->remove(other);
     }
     m_namesByFold.remove(fold);
     m_namesByFold.insert(fold, name);
-    m_settings.setValue(name, value);
+    m_settings->setValue(name, value);
 }
 
 QString SettingsKey::fileName(SettingsScope scope)
 {
-    QSettings settings(QSettings::NativeFormat, qtScope(scope), QStringLiteral("Tarnwick"),
-        QStringLiteral("Vellumio"));
+#ifdef Q_OS_WIN
+    const QSettings settings(QSettings::NativeFormat, qtScope(scope), organisation, application);
     return settings.fileName();
+#else
+    return keyFilePath(scope);
+#endif
 }
 
 void SettingsKey::setWriteObserver(WriteObserver observer)
@@ -109,7 +138,7 @@ void SettingsKey::setWriteObserver(WriteObserver observer)
 
 QString SettingsKey::storedName(const QString &name) const
 {
-    if (m_settings.contains(name))
+    if (m_settings->contains(name))
         return name;
     indexStoredNames();
     return m_namesByFold.value(name.toLower());
@@ -120,7 +149,7 @@ void SettingsKey::indexStoredNames() const
     if (m_namesIndexed)
         return;
     m_namesIndexed = true;
-    const QStringList stored = m_settings.allKeys();
+    const QStringList stored = m_settings->allKeys();
     for (const QString &key : stored)
         m_namesByFold.insert(key.toLower(), key);
 }
@@ -135,7 +164,9 @@ void SettingsKey::prepareFileForWriting()
     if (m_filePrepared || m_scope != SettingsScope::User)
         return;
     m_filePrepared = true;
-    const QString path = m_settings.fileName();
+    const QString path = m_settings->fileName();
+    if (path.isEmpty())
+        return;
     const QFileInfo info(path);
     if (!info.exists()) {
         QDir().mkpath(info.absolutePath());

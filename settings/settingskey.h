@@ -9,6 +9,8 @@
 #include <QString>
 #include <QVariant>
 
+#include <memory>
+
 // One opened settings key: the per-user or the all-users store of the driver. Value names are
 // matched without regard to case, as the registry always did ("path" finds "Path"), and a write
 // replaces every stored name that differs only in case. Writes are committed when the key is
@@ -53,7 +55,7 @@ private:
     void prepareFileForWriting();
 
     SettingsScope m_scope;
-    QSettings m_settings;
+    std::unique_ptr<QSettings> m_settings;
     // Stored names by their lower-case form, built when first needed; a file edited by hand may
     // hold several spellings of one name.
     mutable QMultiHash<QString, QString> m_namesByFold;
