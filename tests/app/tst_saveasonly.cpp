@@ -1,26 +1,14 @@
-#include "jobsettings.h"
+#include "jobfixture.h"
 #include "runprotocol.h"
 #include "scriptedprompts.h"
 #include "settingskey.h"
 
-#include <QProcess>
-#include <QSettings>
-#include <QTemporaryDir>
 #include <QTest>
+#include <QtCore>
 
 namespace {
 
 QStringList writes; // "U name=value" or "M name=value", in the order handed to the store
-
-void recordWrite(SettingsScope scope, const QString &name, const QVariant &value)
-{
-    writes << (scope == SettingsScope::User ? "U " : "M ") + name + '=' + value.toString();
-}
-
-QString filter(const QString &label, const QString &extension)
-{
-    return label + " Format (*." + extension + ')';
-}
 
 // Answers each Save As with the next file of a list.
 class SaveAsAnswers : public ScriptedPrompts
@@ -46,15 +34,15 @@ private slots:
     void init()
     {
         // Not under a folder named after the program, which the converter rule would find first.
-        dir = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/saveasonly-XXXXXX");
-        QVERIFY(QDir(dir->path()).mkpath("out") && QDir(dir->path()).mkpath("bin"));
-        out = dir->filePath("out") + '/';
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, dir->filePath("user"));
-        QSettings::setPath(
-            QSettings::NativeFormat, QSettings::SystemScope, dir->filePath("machine"));
-        jobSettings() = JobSettings();
+        QCoreApplication::setApplicationName("saveasonly");
+        job = std::make_unique<JobFixture>();
+        out = job->path("out/");
+        QVERIFY(QDir().mkpath(out));
         writes.clear();
-        SettingsKey::setWriteObserver(recordWrite);
+        SettingsKey::setWriteObserver([](SettingsScope scope, const QString &name,
+                                          const QVariant &value) {
+            writes << (scope == SettingsScope::User ? "U " : "M ") + name + '=' + value.toString();
+        });
         prompts = std::make_unique<SaveAsAnswers>();
     }
     void cleanup()
@@ -77,20 +65,19 @@ private slots:
         const QString saved = "U isabort=false U newfilename=%1 U Path=@ U format=%2";
 
         // clang-format off
-        QTest::newRow("pdf")              << "@report.pdf" << filter("PDF", "pdf")      << false << true  << saved.arg("report", "pdf");
-        QTest::newRow("pdf, all users")   << "@report.pdf" << filter("PDF", "pdf")      << true  << true  << saved.arg("report", "pdf") + ' ' + QString(saved).replace("U ", "M ").arg("report", "pdf");
-        QTest::newRow("excel")            << "@sheet.xls"  << filter("MS Excel", "xls") << false << false << saved.arg("sheet", "msxml");
-        QTest::newRow("html")             << "@page.html"  << filter("HTML", "html")    << false << false << saved.arg("page", "htm");
-        QTest::newRow("djvu")             << "@scan.djvu"  << filter("DjVu", "djvu")    << false << true  << saved.arg("scan", "djvu");
+        QTest::newRow("pdf")              << "@report.pdf" << "PDF Format (*.pdf)"      << false << true  << saved.arg("report", "pdf");
+        QTest::newRow("pdf, all users")   << "@report.pdf" << "PDF Format (*.pdf)"      << true  << true  << saved.arg("report", "pdf") + ' ' + QString(saved).replace("U ", "M ").arg("report", "pdf");
+        QTest::newRow("html")             << "@page.html"  << "HTML Format (*.html)"    << false << false << saved.arg("page", "htm");
+        QTest::newRow("djvu")             << "@scan.djvu"  << "DjVu Format (*.djvu)"    << false << true  << saved.arg("scan", "djvu");
         // The RTF filter is fixed to *.rtf, whatever extension is stored for it.
-        QTest::newRow("rtf under doc")    << "@a.doc"      << filter("RTF", "doc")      << false << true  << saved.arg("a", "");
+        QTest::newRow("rtf under doc")    << "@a.doc"      << "RTF Format (*.doc)"      << false << true  << saved.arg("a", "");
         QTest::newRow("not offered")      << "@a.pdf"      << "All files (*)"           << false << true  << saved.arg("a", "");
         // A file that cannot be written brings a message and a new dialog.
-        QTest::newRow("unwritable twice") << "@no/a.png|@no/a.png|@b.png" << filter("PNG", "png") << false << false << saved.arg("b", "png");
-        QTest::newRow("3 characters")     << "abc"         << filter("PDF", "pdf")      << false << true  << "U isabort=false U newfilename=abc U Path= U format=pdf";
-        QTest::newRow("2 characters")     << "ab"          << filter("PDF", "pdf")      << false << true  << "U isabort=true";
-        QTest::newRow("cancelled")        << ""            << filter("PDF", "pdf")      << false << true  << "U isabort=true";
-        QTest::newRow("cancelled, all")   << ""            << filter("PDF", "pdf")      << true  << true  << "M isabort=true U isabort=true";
+        QTest::newRow("unwritable twice") << "@no/a.png|@no/a.png|@b.png" << "PNG Format (*.png)" << false << false << saved.arg("b", "png");
+        QTest::newRow("3 characters")     << "abc"         << "PDF Format (*.pdf)"      << false << true  << "U isabort=false U newfilename=abc U Path= U format=pdf";
+        QTest::newRow("2 characters")     << "ab"          << "PDF Format (*.pdf)"      << false << true  << "U isabort=true";
+        QTest::newRow("cancelled")        << ""            << "PDF Format (*.pdf)"      << false << true  << "U isabort=true";
+        QTest::newRow("cancelled, all")   << ""            << "PDF Format (*.pdf)"      << true  << true  << "M isabort=true U isabort=true";
         // clang-format on
     }
     void outcome()
@@ -111,14 +98,13 @@ private slots:
         QCOMPARE(prompts->saveAsCalls.size(), prompts->questions.size() + 1);
         QCOMPARE(prompts->saveAsCalls.size(), files.count('|') + 1);
         for (const ScriptedPrompts::Question &asked : std::as_const(prompts->questions)) {
-            QCOMPARE(asked.title + '|' + asked.text,
-                "Vellumio|You have no permission to write in this "
-                "directory.\nPlease, choose another one.");
+            QCOMPARE(asked.text,
+                "You have no permission to write in this directory.\nPlease, choose another one.");
         }
         // Every dialog starts from the loaded folder, name and filter, not from a failed try.
         for (const ScriptedPrompts::SaveAs &asked : std::as_const(prompts->saveAsCalls)) {
             QCOMPARE(asked.caption + '|' + asked.path + '|' + asked.preselectedFilter,
-                "Save File As...|" + out + "Document1|" + ::filter("TIFF", "tif"));
+                "Save File As...|" + out + "Document1|" + "TIFF Format (*.tif)");
             // This mode's own list: DjVu only with its converter, RTF with its stored extension,
             // HTML last; 11 or 12 filters. The labels are the catalogue suite's.
             const QString djvu = converter ? "DjVu Format (*.djvu);;" : "";
@@ -127,25 +113,19 @@ private slots:
             QCOMPARE(asked.filters.count(";;"), converter ? 11 : 10);
         }
         QCOMPARE(writes.join(' '), QString(expected).replace('@', out));
-        // The write test leaves no file behind.
-        QVERIFY(!QFile::exists(out + "report.pdf") || !expected.contains("report"));
-        QVERIFY(!QFile::exists(out + "abc") && !QFile::exists(out + "a.pdf")
-            && !QFile::exists(out + "b.png"));
+        // The write test leaves no file behind, and an earlier file of that name is gone.
+        QCOMPARE(QDir(out).entryList(QDir::Files).join(' '),
+            expected.contains("=report ") ? "" : "report.pdf");
     }
     void noArgumentWritesNothing()
     {
         const QString binary = qEnvironmentVariable("FMTASK_BINARY");
         if (binary.isEmpty())
             QSKIP("FMTASK_BINARY is not set");
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("XDG_CONFIG_HOME", dir->filePath("user"));
-        environment.insert("XDG_CONFIG_DIRS", dir->filePath("machine"));
-        process.setProcessEnvironment(environment);
-        process.start(binary, {});
-        QVERIFY(process.waitForFinished(20000) && process.exitStatus() == QProcess::NormalExit);
-        QCOMPARE(process.exitCode(), 0);
-        QVERIFY(!QDir(dir->filePath("user")).exists() && !QDir(dir->filePath("machine")).exists());
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(job->path("user")));
+        qputenv("XDG_CONFIG_DIRS", QFile::encodeName(job->path("machine")));
+        QCOMPARE(QProcess::execute(binary, {}), 0); // -2: not started, -1: crashed
+        QVERIFY(!QDir(job->path("user")).exists() && !QDir(job->path("machine")).exists());
     }
 
 private:
@@ -154,19 +134,13 @@ private:
     void run(bool allUsers, bool converter)
     {
         // Loading reads the machine key alone when all users share the settings.
-        const QString key
-            = dir->filePath(allUsers ? "machine" : "user") + "/Tarnwick/Vellumio.conf";
-        QDir().mkpath(QFileInfo(key).path());
-        QFile ini(key);
-        QVERIFY(ini.open(QIODevice::WriteOnly));
-        ini.write(("[General]\nchDialog_SaveAs=true\npath=" + out + "\next_rtf=doc\n"
-            + (allUsers ? "settings_for_all_users=true\n" : ""))
-                      .toUtf8());
-        ini.close();
+        job->writeFile(allUsers ? job->machineFile() : job->userFile(),
+            ("[General]\nchDialog_SaveAs=true\npath=" + out + "\next_rtf=doc\n"
+                + (allUsers ? "settings_for_all_users=true\n" : ""))
+                .toUtf8());
         if (converter)
-            QFile(dir->filePath("bin/" + RunProtocol::converterFileName()))
-                .open(QIODevice::WriteOnly);
-        QByteArray program = dir->filePath("bin/" + RunProtocol::programFileName()).toLocal8Bit();
+            job->writeFile(job->path("bin/" + RunProtocol::converterFileName()), {});
+        QByteArray program = job->path("bin/" + RunProtocol::programFileName()).toLocal8Bit();
         QByteArray argument = "Document1";
         char *argv[] = {program.data(), argument.data(), nullptr};
         int argc = 2;
@@ -174,7 +148,7 @@ private:
         QCOMPARE(RunProtocol::run(argc, argv), 0);
     }
 
-    std::unique_ptr<QTemporaryDir> dir;
+    std::unique_ptr<JobFixture> job;
     QString out; // a writable output folder, with its trailing separator
     std::unique_ptr<SaveAsAnswers> prompts;
 };
