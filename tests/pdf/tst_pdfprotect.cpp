@@ -9,16 +9,21 @@
 namespace {
 
 // The shared values' fields: eight texts, then the eight permission boxes.
-const QStringList fields = QStringLiteral(
-    "le_pdf_title le_pdf_author le_pdf_subject le_pdf_keywords le_pdf_creator le_pdf_producer "
-    "le_pdf_user_pw le_pdf_owner_pw ch_pdf_print ch_pdf_edit ch_pdf_copy ch_pdf_editnotes "
-    "ch_pdf_fillandsign ch_pdf_accessible ch_pdf_assemble ch_pdf_highprint")
-                               .split(' ');
+const QStringList fields = {"le_pdf_title", "le_pdf_author", "le_pdf_subject", "le_pdf_keywords",
+    "le_pdf_creator", "le_pdf_producer", "le_pdf_user_pw", "le_pdf_owner_pw", "ch_pdf_print",
+    "ch_pdf_edit", "ch_pdf_copy", "ch_pdf_editnotes", "ch_pdf_fillandsign", "ch_pdf_accessible",
+    "ch_pdf_assemble", "ch_pdf_highprint"};
 
 template<typename T = QWidget>
 T *child(const QObject &dialog, const QString &name)
 {
     return dialog.findChild<T *>(name); // a missing one crashes the test, which is a failure too
+}
+
+// The password fields: user, its repeat, owner, its repeat.
+QLineEdit *password(const QObject &dialog, int i)
+{
+    return child<QLineEdit>(dialog, fields[6 + i / 2] + (i % 2 ? "_2" : ""));
 }
 
 // The job's PDF values in the order of `fields`.
@@ -56,33 +61,11 @@ class tst_PdfProtect : public QObject
 
 private slots:
     void init() { jobSettings() = JobSettings(); }
-    // Every field shows its own job value and stores into it alone.
-    void loadsAndStoresSharedValues()
-    {
-        PdfSettings &pdf = jobSettings().pdf;
-        pdf = {"Title", "Author", "Subject", "Keywords", "Creator",
-            QStringLiteral("Pr\u00f6ducer "), "user", "owner", false,
-            {true, false, true, false, true, false, true, false}};
-        pdfprotect dialog;
-        QCOMPARE(shown(dialog), jobValues());
-        QCOMPARE(child<QLineEdit>(dialog, "le_pdf_user_pw_2")->text(), "user");
-        QCOMPARE(child<QLineEdit>(dialog, "le_pdf_owner_pw_2")->text(), "owner");
-
-        for (const QString &name : fields + QStringList {"le_pdf_user_pw_2", "le_pdf_owner_pw_2"}) {
-            if (auto *edit = child<QLineEdit>(dialog, name))
-                edit->setText(name.mid(7).remove("_2")); // the repeats as their fields
-            else
-                child<QCheckBox>(dialog, name)->toggle();
-        }
-        dialog.pb_ok();
-        QCOMPARE(dialog.result(), int(QDialog::Accepted));
-        QCOMPARE(jobValues(), shown(dialog));
-    }
     void okAndCancel_data()
     {
         // stored: the protection flag before; chosen: the combo index picked (-1: none); typed:
         // user, its repeat, owner, its repeat; button: how the dialog is left; title: the message
-        // shown; repeats: the two repeat fields afterwards
+        // shown; repeats: the two repeat fields afterwards ("loaded": the job's "user" and "owner")
         QTest::addColumn<bool>("stored");
         QTest::addColumn<int>("chosen");
         QTest::addColumn<QString>("typed");
@@ -90,7 +73,7 @@ private slots:
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("repeats");
         // clang-format off
-        QTest::newRow("both empty")               << false << -1 << ",,,"         << "pb_ok"     << ""               << ",";
+        QTest::newRow("as loaded")                << false << -1 << "loaded"      << "pb_ok"     << ""               << "user,owner";
         QTest::newRow("both match")               << false << -1 << "u1,u1,o1,o1" << "pb_ok"     << ""               << "u1,o1";
         QTest::newRow("user differs")             << false << -1 << "u1,u2,o1,o1" << "pb_ok"     << "User Password"  << ",o1";
         QTest::newRow("owner differs")            << false << -1 << "u1,u1,o1,o2" << "pb_ok"     << "Owner Password" << "u1,";
@@ -113,53 +96,52 @@ private slots:
         QFETCH(QString, title);
         QFETCH(QString, repeats);
         ScriptedPrompts prompts;
-        jobSettings().pdf.protect = stored;
+        jobSettings().pdf = {"Title", "Author", "Subject", "Keywords", "Creator",
+            QStringLiteral("Pr\u00f6ducer "), "user", "owner", stored,
+            {true, false, true, false, true, false, true, false}};
         pdfprotect dialog;
+        // Every field shows its own job value; all are changed, each to a value of its own.
+        const QStringList loaded = jobValues();
+        QCOMPARE(shown(dialog), loaded);
+        for (const QString &name : fields) {
+            if (auto *edit = child<QLineEdit>(dialog, name))
+                edit->setText(name.mid(7));
+            else
+                child<QCheckBox>(dialog, name)->toggle();
+        }
+        for (int i = 0; i < 4; ++i)
+            password(dialog, i)->setText(
+                typed == "loaded" ? loaded[6 + i / 2] : typed.section(',', i, i));
         auto *security = child<QComboBox>(dialog, "cb_security");
         QCOMPARE(security->currentText(), stored ? "Password Encryption" : "No Encryption");
         if (chosen >= 0)
             security->setCurrentIndex(chosen);
         const bool on = chosen >= 0 ? chosen == 1 : stored;
         QCOMPARE(child(dialog, "gb_pdf_protect")->isEnabled(), on);
-        const QStringList pw
-            = {"le_pdf_user_pw", "le_pdf_user_pw_2", "le_pdf_owner_pw", "le_pdf_owner_pw_2"};
-        for (int i = 0; i < 4; ++i)
-            child<QLineEdit>(dialog, pw[i])->setText(typed.section(',', i, i));
-        child<QLineEdit>(dialog, "le_pdf_title")->setText("Edited");
         child<QPushButton>(dialog, button)->click();
 
-        QCOMPARE(
-            child<QLineEdit>(dialog, pw[1])->text() + ',' + child<QLineEdit>(dialog, pw[3])->text(),
-            repeats);
-        QStringList asked;
-        for (const ScriptedPrompts::Question &question : std::as_const(prompts.questions)) {
-            QCOMPARE(question.parent, &dialog);
-            QCOMPARE(question.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
-            asked << question.title + '|' + question.text;
+        QCOMPARE(password(dialog, 1)->text() + ',' + password(dialog, 3)->text(), repeats);
+        QCOMPARE(prompts.questions.size(), title.isEmpty() ? 0 : 1);
+        for (const ScriptedPrompts::Question &asked : std::as_const(prompts.questions)) {
+            QVERIFY(asked.parent == &dialog && asked.buttons == QMessageBox::Ok);
+            QCOMPARE(asked.title + '|' + asked.text, title + "|Password entered does not match.");
         }
-        QCOMPARE(
-            asked.join(""), title.isEmpty() ? "" : title + "|Password entered does not match.");
         // On a mismatch the dialog stays open and nothing is stored, not even the document
-        // information.
+        // information; the protection flag is kept on Cancel.
         const bool kept = button == "pb_ok" && title.isEmpty();
         QCOMPARE(dialog.result(), int(kept ? QDialog::Accepted : QDialog::Rejected));
-        const PdfSettings &pdf = jobSettings().pdf;
-        QCOMPARE(pdf.userPassword + ',' + pdf.ownerPassword + ',' + pdf.title,
-            kept ? typed.section(',', 0, 0) + ',' + typed.section(',', 2, 2) + ",Edited" : ",,");
-        QCOMPARE(pdf.protect, on);
+        QCOMPARE(jobValues(), kept ? shown(dialog) : loaded);
+        QCOMPARE(jobSettings().pdf.protect, on);
     }
     void showCharsTogglesAllFour()
     {
         pdfprotect dialog;
-        const QList<QLineEdit *> fields
-            = child(dialog, "gb_pdf_protect")->findChildren<QLineEdit *>();
-        QCOMPARE(fields.size(), 4);
         // The box sits in the Protection group, which only encryption enables.
         child<QComboBox>(dialog, "cb_security")->setCurrentIndex(1);
         for (QLineEdit::EchoMode expected :
             {QLineEdit::Password, QLineEdit::Normal, QLineEdit::Password}) {
-            for (const QLineEdit *field : fields)
-                QCOMPARE(field->echoMode(), expected);
+            for (int i = 0; i < 4; ++i)
+                QCOMPARE(password(dialog, i)->echoMode(), expected);
             child<QCheckBox>(dialog, "ch_showchars_pw")->click();
         }
     }
@@ -167,14 +149,13 @@ private slots:
     void tabOrder()
     {
         pdfprotect dialog;
-        for (const QString &pair : QStringLiteral(
-                 "pb_ok>pb_cancel le_pdf_title>le_pdf_subject le_pdf_subject>le_pdf_author "
-                 "le_pdf_user_pw>le_pdf_owner_pw le_pdf_owner_pw>ch_showchars_pw "
-                 "ch_pdf_print>ch_pdf_highprint")
-                                       .split(' '))
-            QCOMPARE(pair.section('>', 0, 0) + '>'
-                    + child(dialog, pair.section('>', 0, 0))->nextInFocusChain()->objectName(),
-                pair);
+        QStringList next;
+        for (const char *name : {"pb_ok", "le_pdf_title", "le_pdf_subject", "le_pdf_user_pw",
+                 "le_pdf_owner_pw", "ch_pdf_print"})
+            next << child(dialog, name)->nextInFocusChain()->objectName();
+        QCOMPARE(next.join(' '),
+            "pb_cancel le_pdf_subject le_pdf_author le_pdf_owner_pw ch_showchars_pw "
+            "ch_pdf_highprint");
     }
     void languageChange()
     {
@@ -185,8 +166,7 @@ private slots:
         QVERIFY(QCoreApplication::installTranslator(&translator));
         QTRY_COMPARE(dialog.windowTitle(), "~ Advanced PDF Settings ");
         const auto *security = child<QComboBox>(dialog, "cb_security");
-        QCOMPARE(security->itemText(0) + '|' + security->itemText(1),
-            "~No Encryption|~Password Encryption");
+        QCOMPARE(security->itemText(1), "~Password Encryption");
         // Translating the items is no choice of the user.
         QVERIFY(security->currentIndex() == 1 && jobSettings().pdf.protect);
         QCoreApplication::removeTranslator(&translator);
