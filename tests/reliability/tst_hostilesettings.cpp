@@ -45,7 +45,6 @@ private:
     int filesTried = 0;
     int closedByPrint = 0;
     int programRuns = 0;
-    int knownFindings = 0;
 };
 
 Q_DECLARE_METATYPE(tst_HostileSettings::Shape)
@@ -249,7 +248,7 @@ void tst_HostileSettings::programExitsZero_data()
     QTest::newRow("save-as-only mode with random bytes")
         << Shape::File << "chDialog_SaveAs=true\n" + randomBytes(13, 8 * 1024) << QByteArray()
         << -1;
-    // Only as a separate process: reading the key would block this test for good.
+    // Only as a separate process: a key that read the pipe would block this test for good.
     QTest::newRow("settings file is a named pipe")
         << Shape::Pipe << QByteArray() << QByteArray() << -1;
 }
@@ -274,11 +273,7 @@ void tst_HostileSettings::programExitsZero()
         program.kill();
         program.waitForFinished();
     });
-    if (shape == Shape::Pipe)
-        ++knownFindings;
-    QEXPECT_FAIL("settings file is a named pipe",
-        "reading the key opens the pipe and waits for a writer that never comes", Abort);
-    QVERIFY(program.waitForFinished(shape == Shape::Pipe ? 5000 : 60000));
+    QVERIFY(program.waitForFinished(60000));
     ++programRuns;
     const QByteArray output = program.readAllStandardOutput();
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
@@ -292,9 +287,8 @@ void tst_HostileSettings::programExitsZero()
 void tst_HostileSettings::cleanupTestCase()
 {
     qInfo("hostile settings: %d files tried in process, %d dialogs closed by Print, %d program "
-          "runs ended with status 0, new findings 0, known findings %d (start-up blocks on a named "
-          "pipe at the key)",
-        filesTried, closedByPrint, programRuns, knownFindings);
+          "runs ended with status 0, findings 0",
+        filesTried, closedByPrint, programRuns);
 }
 
 QTEST_MAIN(tst_HostileSettings)
