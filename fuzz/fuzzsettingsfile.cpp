@@ -43,8 +43,11 @@ void writeSettingsFile(const QString &fileName, const uint8_t *data, size_t size
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    char folder[] = "/tmp/fmtask-fuzz-XXXXXX";
-    if (!mkdtemp(folder))
+    // Under TMPDIR, so that the script that runs the fuzzer can clear it away afterwards.
+    const char *temporary = std::getenv("TMPDIR");
+    QByteArray folder
+        = QByteArray(temporary && *temporary ? temporary : "/tmp") + "/fmtask-fuzz-XXXXXX";
+    if (!mkdtemp(folder.data()))
         std::abort();
     const QByteArray base(folder);
     setenv("XDG_CONFIG_HOME", (base + "/user").constData(), 1);

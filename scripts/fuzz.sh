@@ -19,6 +19,7 @@ export ASAN_OPTIONS="detect_leaks=1:abort_on_error=1"
 export LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp:print_suppressions=0"
 export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
 export QT_QPA_PLATFORM=offscreen
+export TMPDIR="$work"
 
 status=0
 for pair in fuzz_settings_file:settings fuzz_paths_passwords:paths; do
