@@ -169,7 +169,7 @@ void tst_ModernDrawing::pixels()
 
 void tst_ModernDrawing::baseDrawsOutsideConditions()
 {
-    for (const QString scene :
+    for (const QString &scene :
         {QStringLiteral("dialog tab"), QStringLiteral("loose tool button")}) {
         const QImage base = draw(scene, m_base.get());
         QImage blank(base.size(), base.format());
