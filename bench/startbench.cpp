@@ -40,11 +40,16 @@ struct Launch
     long maxResidentKiB = 0;
 };
 
-double nowMilliseconds()
+double clockMilliseconds(clockid_t clock)
 {
     timespec now {};
-    clock_gettime(CLOCK_MONOTONIC, &now);
+    clock_gettime(clock, &now);
     return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
+}
+
+double nowMilliseconds()
+{
+    return clockMilliseconds(CLOCK_MONOTONIC);
 }
 
 double median(std::vector<double> values)
@@ -168,9 +173,7 @@ struct InProcess
 
 double threadCpuMilliseconds()
 {
-    timespec now {};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
+    return clockMilliseconds(CLOCK_THREAD_CPUTIME_ID);
 }
 
 // A new modification time makes the settings cache read and parse the file again, as a fresh

@@ -214,14 +214,20 @@ void WindowsModernStyle::drawPrimitive(PrimitiveElement element, const QStyleOpt
             break;
         }
     }
-    if (draw && option && painter) {
-        painter->save();
-        const bool drawn = (this->*draw)(option, painter, widget);
-        painter->restore();
-        if (drawn)
-            return;
-    }
+    if (draw && drawGuarded(draw, option, painter, widget))
+        return;
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+bool WindowsModernStyle::drawGuarded(
+    DrawFunction draw, const QStyleOption *option, QPainter *painter, const QWidget *widget) const
+{
+    if (!option || !painter)
+        return false;
+    painter->save();
+    const bool drawn = (this->*draw)(option, painter, widget);
+    painter->restore();
+    return drawn;
 }
 
 void WindowsModernStyle::drawControl(ControlElement element, const QStyleOption *option,
@@ -259,13 +265,8 @@ void WindowsModernStyle::drawControl(ControlElement element, const QStyleOption 
     default:
         break;
     }
-    if (draw && option && painter) {
-        painter->save();
-        const bool drawn = (this->*draw)(option, painter, widget);
-        painter->restore();
-        if (drawn)
-            return;
-    }
+    if (draw && drawGuarded(draw, option, painter, widget))
+        return;
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 

@@ -66,6 +66,10 @@ private:
     using DrawFunction
         = bool (WindowsModernStyle::*)(const QStyleOption *, QPainter *, const QWidget *) const;
 
+    // Runs a draw function with the painter's state saved around it.
+    bool drawGuarded(DrawFunction draw, const QStyleOption *option, QPainter *painter,
+        const QWidget *widget) const;
+
     bool drawBackgroundPanel(
         const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
     bool drawMenuFrame(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
