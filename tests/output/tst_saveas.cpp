@@ -1,101 +1,128 @@
 #include "openwindow.h"
+#include "pathhelpers.h"
 
 #include <QTest>
 
-// The format a stored token selects, and the main dialog's Save As button.
+using namespace PathHelpers;
+
+// The output path rules, the format a stored token selects, and the main dialog's Save As button.
 class SaveAsTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void selectThenOffer_data()
+    void pathRules_data()
     {
-        // stored token selected on page 3 with the filter "before", converter present, then
-        // "page | selected filter" and what Save As gets next: "name proposed | preselected"
-        QTest::addColumn<QString>("token");
-        QTest::addColumn<bool>("converter");
-        QTest::addColumn<QString>("outcome");
+        // The pure rules of the output path, on both folder separators:
+        // rule, its input, the separator ('\' or '/') or the extension, the result; "split" gives
+        // "folder|name", "saveas" the folder and name a Save As result is stored as
+        QTest::addColumn<QString>("rule");
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("arg");
+        QTest::addColumn<QString>("result");
         // clang-format off
-        QTest::newRow("gif")                    << "gif"   << true  << "5 | GIF Format (*.gif) | /out/report.gif | GIF Format (*.gif)";
-        QTest::newRow("msxml")                  << "msxml" << false << "9 | MS Excel Format (*.xls) | /out/report.xls | MS Excel Format (*.xls)";
-        // The HTML filter is preselected although the list does not offer it.
-        QTest::newRow("htm without converter")  << "htm"   << false << "10 | HTML Format (*.html) | /out/report.html | HTML Format (*.html)";
-        QTest::newRow("djvu keeps the page")    << "djvu"  << true  << "3 | DjVu Format (*.djvu) | /out/report.jp2 | JPEG2000 Format (*.jp2)";
-        QTest::newRow("djvu without converter") << "djvu"  << false << "2 | JPEG Format (*.jpg) | /out/report.jpg | JPEG Format (*.jpg)";
-        QTest::newRow("unknown token")          << "xyz"   << true  << "3 | before | /out/report.jp2 | JPEG2000 Format (*.jp2)";
+        QTest::newRow("split backslash")     << "split"  << "C:\\a\\b\\x.pdf" << "\\" << "C:\\a\\b\\|x.pdf";
+        QTest::newRow("slash not a folder")  << "split"  << "C:/out/a.png"   << "\\" << "|C:/out/a.png";
+        QTest::newRow("no separator")        << "split"  << "Document1"      << "/"  << "|Document1";
+        QTest::newRow("strip 3 letters")     << "strip"  << "report.pdf"     << ""   << "report";
+        QTest::newRow("strip 4 letters")     << "strip"  << "scan.djvu"      << ""   << "scan";
+        QTest::newRow("2 letters kept")      << "strip"  << "notes.ab"       << ""   << "notes.ab";
+        QTest::newRow("too short")           << "strip"  << "pdf"            << ""   << "pdf";
+        QTest::newRow("appended")            << "with"   << "C:\\out\\report" << "pdf" << "C:\\out\\report.pdf";
+        QTest::newRow("case differs")        << "with"   << "/out/report.PDF" << "pdf" << "/out/report.PDF.pdf";
+        QTest::newRow("first occurrence")    << "with"   << "a.pdf.copy.pdf" << "pdf"  << "a.pdf.copy.pdf.pdf";
+        QTest::newRow("3 characters, .pdf")  << "with"   << "abc"            << "pdf"  << "abc";
+        QTest::newRow("html after htm")      << "with"   << "page.htm"       << "html" << "page.htm.html";
+        QTest::newRow("empty extension")     << "with"   << "report"         << ""     << "report.";
+        QTest::newRow("slashes turned")      << "saveas" << "C:/out\\sub/x.djvu" << "\\" << "C:\\out\\sub\\|x";
+        QTest::newRow("slashes kept")        << "saveas" << "/home/u/notes.ab" << "/" << "/home/u/|notes.ab";
         // clang-format on
     }
-    void selectThenOffer()
+    void pathRules()
+    {
+        QFETCH(QString, rule);
+        QFETCH(QString, input);
+        QFETCH(QString, arg);
+        QFETCH(QString, result);
+        const QChar sep = arg.isEmpty() ? QLatin1Char('/') : arg.at(0);
+        const QString path = rule == "saveas" ? toNativeSeparators(input, sep) : input;
+        const QString name
+            = rule == "saveas" ? stripExtension(fileNamePart(path, sep)) : fileNamePart(path, sep);
+        if (rule == "strip")
+            QCOMPARE(stripExtension(input), result);
+        else if (rule == "with")
+            QCOMPARE(withExtension(input, arg), result);
+        else
+            QCOMPARE(directoryPart(path, sep) + '|' + name, result);
+    }
+    void saveAs_data()
+    {
+        // a stored token selected first, the converter present, what Save As returns (the file,
+        // empty when cancelled, and the filter left selected); then "page, selected filter" after
+        // the selection, "name offered, filter preselected" to Save As, and "le_filename, token,
+        // page, selected filter" after it. The job starts at /start/Document1 on page 3 with the
+        // token and filter "before" and RTF's extension set to doc.
+        QTest::addColumn<QString>("token");
+        QTest::addColumn<bool>("converter");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("chosen");
+        QTest::addColumn<QString>("outcome");
+        const QString p = QStringLiteral("PNG Format (*.png)"),
+                      j = QStringLiteral("JPEG2000 Format (*.jp2)");
+        // clang-format off
+        QTest::newRow("msxml selected")         << "msxml" << false << "" << ""  << "9 | MS Excel Format (*.xls) | /start/Document1.xls | MS Excel Format (*.xls) > /start/Document1 | before | 9 | MS Excel Format (*.xls)";
+        // The HTML filter is preselected although the list does not offer it.
+        QTest::newRow("htm without converter")  << "htm"   << false << "" << ""  << "10 | HTML Format (*.html) | /start/Document1.html | HTML Format (*.html) > /start/Document1 | before | 10 | HTML Format (*.html)";
+        QTest::newRow("djvu keeps the page")    << "djvu"  << true  << "" << ""  << "3 | DjVu Format (*.djvu) | /start/Document1.jp2 | " + j + " > /start/Document1 | before | 3 | " + j;
+        QTest::newRow("djvu without converter") << "djvu"  << false << "" << ""  << "2 | JPEG Format (*.jpg) | /start/Document1.jpg | JPEG Format (*.jpg) > /start/Document1 | before | 2 | JPEG Format (*.jpg)";
+        QTest::newRow("unknown token")          << "xyz"   << true  << "" << ""  << "3 | before | /start/Document1.jp2 | " + j + " > /start/Document1 | before | 3 | " + j;
+        QTest::newRow("PNG")                    << "" << true << "/out/a.png"  << p << "3 | before | /start/Document1.jp2 | " + j + " > /out/a | png | 1 | " + p;
+        QTest::newRow("DjVu keeps the page")    << "" << true << "/out/a.djvu" << "DjVu Format (*.djvu)" << "3 | before | /start/Document1.jp2 | " + j + " > /out/a | djvu | 3 | DjVu Format (*.djvu)";
+        QTest::newRow("RTF, other extension")   << "" << true << "/out/a.doc"  << "RTF Format (*.doc)"   << "3 | before | /start/Document1.jp2 | " + j + " > /out/a |  | 3 | ";
+        QTest::newRow("fixed RTF text")         << "" << true << "/out/a.rtf"  << "RTF Format (*.rtf)"   << "3 | before | /start/Document1.jp2 | " + j + " > /out/a | rtf | 8 | RTF Format (*.doc)";
+        QTest::newRow("HTML not offered")       << "" << true << "/out/a.html" << "HTML Format (*.html)" << "3 | before | /start/Document1.jp2 | " + j + " > /out/a |  | 3 | ";
+        QTest::newRow("dotted folder")          << "" << true << "/o.v2/r"     << p << "3 | before | /start/Document1.jp2 | " + j + " > /o.v2/r | png | 1 | " + p;
+        QTest::newRow("4 characters taken")     << "" << true << "/a.b"        << p << "3 | before | /start/Document1.jp2 | " + j + " > /a.b | png | 1 | " + p;
+        QTest::newRow("3 characters ignored")   << "" << true << "a.b"         << p << "3 | before | /start/Document1.jp2 | " + j + " > /start/Document1 | before | 3 | " + p;
+        QTest::newRow("cancelled")              << "" << true << ""            << "" << "3 | before | /start/Document1.jp2 | " + j + " > /start/Document1 | before | 3 | " + j;
+        // clang-format on
+    }
+    void saveAs()
     {
         QFETCH(QString, token);
         QFETCH(bool, converter);
+        QFETCH(QString, file);
+        QFETCH(QString, chosen);
         QFETCH(QString, outcome);
         OpenWindow w(converter);
+        w.prompts.chosenFile = file;
+        w.prompts.chosenFilter = chosen.isEmpty() ? QString() : chosen;
+        JobSettings &settings = jobSettings();
+        settings.extensions[Formats::Rtf] = QStringLiteral("doc");
+        settings.formatToken = settings.selectedFilter = QStringLiteral("before");
         w.tabs()->setCurrentIndex(3);
-        w.fileName()->setText(QStringLiteral("/out/report"));
-        jobSettings().selectedFilter = QStringLiteral("before");
+        w.fileName()->setText(QStringLiteral("/start/Document1"));
         w.window->selectFormat(token);
-        QString found
-            = QString::number(w.tabs()->currentIndex()) + " | " + jobSettings().selectedFilter;
+        QString found = QString::number(w.tabs()->currentIndex()) + " | " + settings.selectedFilter;
+        QVERIFY(!w.window->isNameChosenByDialog());
         w.window->pb_filename();
+        // Set even when nothing was taken: Print then asks no overwrite question.
+        QVERIFY(w.window->isNameChosenByDialog());
         QCOMPARE(w.prompts.saveAsCalls.size(), 1);
         const ScriptedPrompts::SaveAs &call = w.prompts.saveAsCalls.first();
-        QCOMPARE(found + " | " + call.path + " | " + call.preselectedFilter, outcome);
+        found += " | " + call.path + " | " + call.preselectedFilter + " > "
+            + QStringList({w.fileName()->text(), settings.formatToken,
+                              QString::number(w.tabs()->currentIndex()), settings.selectedFilter})
+                  .join(" | ");
+        QCOMPARE(found, outcome);
         QCOMPARE(call.parent, w.window.get());
         QCOMPARE(call.caption, QStringLiteral("Save File As..."));
         QCOMPARE(call.filters,
             QStringLiteral("BMP Format (*.bmp);;PNG Format (*.png);;TIFF Format (*.tif);;JPEG "
                            "Format (*.jpg);;JPEG2000 Format (*.jp2);;GIF Format (*.gif);;PDF "
-                           "Format (*.pdf);;SWF Format (*.swf);;%1RTF Format (*.rtf);;MS Excel "
+                           "Format (*.pdf);;SWF Format (*.swf);;%1RTF Format (*.doc);;MS Excel "
                            "Format (*.xls)")
                 .arg(QLatin1String(converter ? "DjVu Format (*.djvu);;" : "")));
-    }
-
-    void result_data()
-    {
-        // RTF extension setting, file returned (empty: cancelled), filter left selected, then
-        // "le_filename | format token | page | selected filter", starting from "/start/Document1"
-        // on page 3 with the token "before"
-        QTest::addColumn<QString>("rtf");
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("chosen");
-        QTest::addColumn<QString>("outcome");
-        // clang-format off
-        QTest::newRow("PNG")                  << "rtf" << "/out/a.png"   << "PNG Format (*.png)"      << "/out/a | png | 1 | PNG Format (*.png)";
-        QTest::newRow("DjVu keeps the page")  << "rtf" << "/out/a.djvu"  << "DjVu Format (*.djvu)"    << "/out/a | djvu | 3 | DjVu Format (*.djvu)";
-        QTest::newRow("RTF, other extension") << "doc" << "/out/a.doc"   << "RTF Format (*.doc)"      << "/out/a |  | 3 | ";
-        QTest::newRow("fixed RTF text")       << "doc" << "/out/a.rtf"   << "RTF Format (*.rtf)"      << "/out/a | rtf | 8 | RTF Format (*.doc)";
-        QTest::newRow("HTML not offered")     << "rtf" << "/out/a.html"  << "HTML Format (*.html)"    << "/out/a |  | 3 | ";
-        QTest::newRow("dotted folder")        << "rtf" << "/o.v2/r"      << "PNG Format (*.png)"      << "/o.v2/r | png | 1 | PNG Format (*.png)";
-        QTest::newRow("forward slashes")      << "rtf" << "C:/out/a.png" << "PNG Format (*.png)"      << "C:/out/a | png | 1 | PNG Format (*.png)";
-        QTest::newRow("4 characters taken")   << "rtf" << "/a.b"         << "PNG Format (*.png)"      << "/a.b | png | 1 | PNG Format (*.png)";
-        QTest::newRow("3 characters ignored") << "rtf" << "a.b"          << "PNG Format (*.png)"      << "/start/Document1 | before | 3 | PNG Format (*.png)";
-        QTest::newRow("cancelled")            << "rtf" << ""             << ""                        << "/start/Document1 | before | 3 | JPEG2000 Format (*.jp2)";
-        // clang-format on
-    }
-    void result()
-    {
-        QFETCH(QString, rtf);
-        QFETCH(QString, file);
-        QFETCH(QString, chosen);
-        QFETCH(QString, outcome);
-        OpenWindow w(true);
-        w.prompts.chosenFile = file;
-        w.prompts.chosenFilter = chosen.isEmpty() ? QString() : chosen;
-        JobSettings &settings = jobSettings();
-        settings.extensions[Formats::Rtf] = rtf;
-        settings.formatToken = QStringLiteral("before");
-        w.tabs()->setCurrentIndex(3);
-        w.fileName()->setText(QStringLiteral("/start/Document1"));
-        QVERIFY(!w.window->isNameChosenByDialog());
-        w.window->pb_filename();
-        // Set even when nothing was taken: Print then asks no overwrite question.
-        QVERIFY(w.window->isNameChosenByDialog());
-        QCOMPARE(
-            QStringList({w.fileName()->text(), settings.formatToken,
-                            QString::number(w.tabs()->currentIndex()), settings.selectedFilter})
-                .join(" | "),
-            outcome);
         // The driver gets the folder and the name as the two halves of the field.
         QCOMPARE(settings.outputFolder + settings.newFileName,
             file.size() < 4 ? QStringLiteral("Document1") : w.fileName()->text());
