@@ -22,12 +22,6 @@ const QString commonTail = QStringLiteral(
     "pdf_protect_print pdf_protect_edit pdf_protect_copy pdf_protect_editnotes "
     "pdf_protect_fillandsign pdf_protect_accessible pdf_protect_assemble pdf_protect_highprint");
 
-const QString switchWidgets = QStringLiteral("ch_exe ch_email ch_tcp ch_ftp ch_text ch_image");
-const QString pageWidgets = QStringLiteral(
-    "spb_q_htm spb_q_jpg spb_q_tif spb_q_swf spb_q_pdf ch_multipage_tiff ch_multipage_swf "
-    "ch_multipage_pdf ch_multipage_htm ch_multipage_djvu rb_pdf_text rb_htm_text rb_swf_text "
-    "ch_swf_animate ch_swf_protect le_swf_protect rb_1 rb_zip rb_packbits rb_4 rb_2 rb_3");
-
 } // namespace
 
 // Loading into and saving from the main window, against real INI files in a temporary folder.
@@ -75,7 +69,7 @@ private slots:
         QTest::newRow("capital PDF")        << "format=PDF"  << "" << false << "format=jpg; page=2";
         QTest::newRow("djvu, no converter") << "format=djvu" << "" << false << "format=jpg; page=2";
         // The DjVu page is asked for as index 12, which the tab widget ignores.
-        QTest::newRow("djvu, converter")    << "format=djvu" << "" << true  << "format=djvu; page=6";
+        QTest::newRow("djvu, converter")    << "format=djvu\nmultipage_djvu=false" << "" << true  << "format=djvu; page=6; ch_multipage_djvu=unchecked";
 
         QTest::newRow("tif JPEG 8")  << "format=tif\nformat_ext=JPEG\nimage_color=8" << "" << false << "rows=1/2; colour=8";
         QTest::newRow("bmp 24g")     << "format=bmp\nimage_color=24g"                << "" << false << "rows=2/4; colour=24g";
@@ -165,7 +159,8 @@ private slots:
             box->setValue(40 + page);
         for (auto *box : tabs->currentWidget()->findChildren<QCheckBox *>())
             box->toggle();
-        for (const QString &name : words(switchWidgets + " cd_extract_text rb_pefix_1"))
+        for (const QString &name :
+            words("ch_exe ch_email ch_tcp ch_ftp ch_text ch_image cd_extract_text rb_pefix_1"))
             widget<QAbstractButton>(name)->setChecked(true);
         widget<QLineEdit>("le_pr_custom")->setText(QStringLiteral("0042"));
         widget<QLineEdit>("le_filename")->setText(m_job->path("out/report.pdf"));
@@ -183,15 +178,6 @@ private slots:
         widget<QGroupBox>("ch_swf_protect")->setChecked(setup.contains("protect"));
         widget<QLineEdit>("le_swf_protect")->setText(setup.contains("pw") ? "sw\u00e9f=;" : "");
         widget<QCheckBox>("cd_dialog")->setChecked(!setup.contains("no dialog"));
-        const auto snapshot = [this] {
-            QStringList states;
-            for (const QString &name :
-                words(switchWidgets + " cd_extract_text rb_pefix_1 le_pr_custom colour pdf protect "
-                    + pageWidgets))
-                states << name + '=' + observe(name);
-            return states;
-        };
-        const QStringList before = snapshot();
         writes.clear();
         m_window->saveAllSettings();
 
@@ -207,15 +193,20 @@ private slots:
         QVERIFY(user.contains("U chDialog=false") == names.contains("chDialog"));
         QVERIFY(!JobFixture::bytesOf(m_job->userFile()).contains("PATH"));
 
-        if (!setup.isEmpty() && setup != "protect pw")
-            return; // the other rows leave values that are deliberately not saved
+        // The other rows leave values that are deliberately not saved; DjVu's page is not opened.
+        if ((!setup.isEmpty() && setup != "protect pw") || page == 11)
+            return;
+        // A new job shows every value as saved, so saving it again writes the same.
+        const QStringList saved = writes;
         m_window.reset();
         job = JobSettings();
         job.newFileName = QStringLiteral("Document2");
         open(true);
-        QCOMPARE(snapshot(), before);
         QCOMPARE(observe("le_filename"), m_job->path("out/Document2"));
-        QCOMPARE(observe("format"), Formats::byIndex(page)->token);
+        widget<QLineEdit>("le_filename")->setText(m_job->path("out/report.pdf"));
+        writes.clear();
+        m_window->saveAllSettings();
+        QCOMPARE(writes, saved);
     }
     // Garbled, mistyped, folder-shaped and read-only files are opened and printed by the
     // reliability suite; an unreadable one is not.
