@@ -1,10 +1,12 @@
+#include "filesavedialog.h"
 #include "jobfixture.h"
+#include "markingtranslator.h"
 #include "runprotocol.h"
 #include "scriptedprompts.h"
 #include "settingskey.h"
 
 #include <QTest>
-#include <QtCore>
+#include <QtWidgets>
 
 namespace {
 
@@ -37,7 +39,6 @@ private slots:
         QCoreApplication::setApplicationName("saveasonly");
         job = std::make_unique<JobFixture>();
         out = job->path("out/");
-        QVERIFY(QDir().mkpath(out));
         writes.clear();
         SettingsKey::setWriteObserver([](SettingsScope scope, const QString &name,
                                           const QVariant &value) {
@@ -68,7 +69,6 @@ private slots:
         QTest::newRow("djvu")             << "@scan.djvu"  << "DjVu Format (*.djvu)"    << false << true  << saved.arg("scan", "djvu");
         // The RTF filter is fixed to *.rtf, whatever extension is stored for it.
         QTest::newRow("rtf under doc")    << "@a.doc"      << "RTF Format (*.doc)"      << false << true  << saved.arg("a", "");
-        QTest::newRow("not offered")      << "@a.pdf"      << "All files (*)"           << false << true  << saved.arg("a", "");
         // A file that cannot be written brings a message and a new dialog.
         QTest::newRow("unwritable twice") << "@no/a.png|@no/a.png|@b.png" << "PNG Format (*.png)" << false << false << saved.arg("b", "png");
         QTest::newRow("3 characters")     << "abc"         << "PDF Format (*.pdf)"      << false << true  << "U isabort=false U newfilename=abc U Path= U format=pdf";
@@ -123,6 +123,21 @@ private slots:
         // The write test leaves no file behind, and an earlier file of that name is gone.
         QCOMPARE(QDir(out).entryList(QDir::Files).join(' '),
             expected.contains("=report ") ? "" : "report.pdf");
+    }
+    // The banner follows a language installed while it is up.
+    void bannerLanguageChange()
+    {
+        int argc = 1;
+        char name[] = "saveasonly", *argv[] = {name, nullptr};
+        QApplication app(argc, argv);
+        FileSaveDialog banner;
+        const auto *label = banner.findChild<QLabel *>(QStringLiteral("label_3"));
+        const QString text = label->text();
+        MarkingTranslator translator("FileSaveDialog");
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        QTRY_COMPARE(banner.windowTitle() + '|' + label->text(), "~Vellumio|~" + text);
+        QCoreApplication::removeTranslator(&translator);
+        QTRY_COMPARE(banner.windowTitle() + '|' + label->text(), "Vellumio|" + text);
     }
     void noArgumentWritesNothing()
     {

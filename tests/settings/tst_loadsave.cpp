@@ -53,11 +53,8 @@ private slots:
         QTest::addColumn<QString>("expected"); // "what=state; ..." as observe() reports it
 
         // One stored text in the five kinds of switch: converted, typed, and compared with "true".
-        const auto flags = [](const char *text) {
-            return QString::fromLatin1("multipage_pdf=%1\nload_ext_app=%1\npdf_protect=%1\nextract_"
-                                       "text=%1\nchDialog_SaveAs=%1")
-                .arg(QLatin1String(text));
-        };
+        const QString flags = QStringLiteral("multipage_pdf=%1\nload_ext_app=%1\npdf_protect=%"
+                                             "1\nextract_text=%1\nchDialog_SaveAs=%1");
         const QString all = QStringLiteral("settings_for_all_users=");
 
         // clang-format off
@@ -79,9 +76,9 @@ private slots:
         // A row beyond the list is left to the combo box; the code is not rewritten.
         QTest::newRow("gif 24")      << "format=gif\nimage_color=24"                 << "" << false << "rows=-1/3; colour=24";
 
-        QTest::newRow("true")  << flags("true")  << "" << false << "ch_multipage_pdf=checked; ch_exe=checked; protect=true; cd_extract_text=checked; saveAsOnly=true";
-        QTest::newRow("TRUE")  << flags("TRUE")  << "" << false << "ch_multipage_pdf=checked; ch_exe=checked; protect=true; cd_extract_text=unchecked; saveAsOnly=false";
-        QTest::newRow("FaLsE") << flags("FaLsE") << "" << false << "ch_multipage_pdf=unchecked; ch_exe=unchecked; protect=false; cd_extract_text=unchecked";
+        QTest::newRow("true")  << flags.arg("true")  << "" << false << "ch_multipage_pdf=checked; ch_exe=checked; protect=true; cd_extract_text=checked; saveAsOnly=true";
+        QTest::newRow("TRUE")  << flags.arg("TRUE")  << "" << false << "ch_multipage_pdf=checked; ch_exe=checked; protect=true; cd_extract_text=unchecked; saveAsOnly=false";
+        QTest::newRow("FaLsE") << flags.arg("FaLsE") << "" << false << "ch_multipage_pdf=unchecked; ch_exe=unchecked; protect=false; cd_extract_text=unchecked";
         // Switched on by an earlier load in the same run, these three stay on; an ordinary flag follows.
         QTest::newRow("one-sided") << "swf_animate=true\nchDialog_SaveAs=true\nmultipage_tiff=true|swf_animate=false\nchDialog_SaveAs=false\nmultipage_tiff=false" << "" << false << "ch_swf_animate=checked; saveAsOnly=true; ch_multipage_tiff=unchecked";
 
