@@ -49,8 +49,7 @@ int main(int argc, char *argv[])
     std::setvbuf(stdout, nullptr, _IONBF, 0);
     if (argc > 1 && !qstrcmp(argv[1], "run")) {
         argv[1] = argv[0]; // the program sees its own path and the driver's words
-        --argc;
-        return RunProtocol::run(argc, argv + 1);
+        return RunProtocol::run(--argc, argv + 1);
     }
     QApplication application(argc, argv);
     const int writer = std::atoi(argv[2]), rounds = std::atoi(argv[3]), filler = std::atoi(argv[4]);
@@ -58,8 +57,7 @@ int main(int argc, char *argv[])
         const QString tag = QStringLiteral("w%1r%2").arg(writer).arg(round);
         MainWindow window;
         PdfSettings &pdf = jobSettings().pdf;
-        pdf.title = pdf.author = pdf.keywords
-            = tag + QLatin1Char(':') + QString(filler, QLatin1Char('x')) + QLatin1Char(':') + tag;
+        pdf.title = pdf.author = pdf.keywords = tag + ':' + QString(filler, 'x') + ':' + tag;
         std::printf("writing %d\n", round);
         window.saveAllSettings();
         std::printf("saved %d\n", round);
