@@ -13,9 +13,8 @@
 
 // One print job in a temporary folder: both settings keys redirected there, fresh job values,
 // and optionally a DjVu converter beside the "program".
-class JobFixture
+struct JobFixture
 {
-public:
     JobFixture()
     {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, dir.filePath("user"));
@@ -34,8 +33,7 @@ public:
     {
         QDir().mkpath(file.section(QLatin1Char('/'), 0, -2));
         QFile out(file);
-        if (out.open(QIODevice::WriteOnly))
-            out.write(ini);
+        out.open(QIODevice::WriteOnly) && out.write(ini) == ini.size();
     }
 
     static QByteArray bytesOf(const QString &file)
@@ -52,10 +50,9 @@ public:
     // Creates the main window, with or without the DjVu converter present.
     std::unique_ptr<MainWindow> createWindow(bool converter)
     {
-        const QString converterPath = path("dxconv");
+        jobSettings().converterPath = path("dxconv");
         if (converter)
-            writeFile(converterPath, QByteArray());
-        jobSettings().converterPath = converterPath;
+            writeFile(path("dxconv"), QByteArray());
         return std::make_unique<MainWindow>();
     }
 

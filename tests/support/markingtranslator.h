@@ -6,9 +6,8 @@
 
 // Marks every text of one translation context with a leading "~", as a translation installed at
 // run time would change it.
-class MarkingTranslator : public QTranslator
+struct MarkingTranslator : public QTranslator
 {
-public:
     explicit MarkingTranslator(const char *context)
         : context(context)
     { }
@@ -17,12 +16,9 @@ public:
 
     QString translate(const char *textContext, const char *source, const char *, int) const override
     {
-        if (context != textContext)
-            return QString();
-        return QLatin1Char('~') + QString::fromUtf8(source);
+        return context == textContext ? QLatin1Char('~') + QString::fromUtf8(source) : QString();
     }
 
-private:
     QByteArray context;
 };
 

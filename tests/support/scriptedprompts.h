@@ -11,14 +11,12 @@
 
 // Answers the dialogs' modal questions from a script and records what was asked, so a test can
 // run Print and Save As without a person. Installed for its lifetime.
-class ScriptedPrompts : public Prompts
+struct ScriptedPrompts : public Prompts
 {
-public:
     struct Question
     {
         QWidget *parent;
-        QString title;
-        QString text;
+        QString title, text;
         QMessageBox::StandardButtons buttons;
         bool watchedWasTopmost; // state of `watched` while the box was up
     };
@@ -26,10 +24,7 @@ public:
     struct SaveAs
     {
         QWidget *parent;
-        QString caption;
-        QString path;
-        QString filters;
-        QString preselectedFilter;
+        QString caption, path, filters, preselectedFilter;
     };
 
     ScriptedPrompts() { Prompts::install(this); }
@@ -47,8 +42,7 @@ public:
         const QString &filters, QString *selectedFilter) override
     {
         saveAsCalls.append({parent, caption, path, filters, *selectedFilter});
-        if (!chosenFilter.isNull())
-            *selectedFilter = chosenFilter;
+        *selectedFilter = chosenFilter.isNull() ? *selectedFilter : chosenFilter;
         return chosenFile;
     }
 
@@ -56,8 +50,7 @@ public:
     QQueue<QMessageBox::StandardButton> answers;
     // What Save As returns: the file (empty = cancelled) and the filter left selected (null =
     // the preselected one).
-    QString chosenFile;
-    QString chosenFilter;
+    QString chosenFile, chosenFilter;
     // The window whose topmost state is recorded with every question.
     QPointer<QWidget> watched;
 
