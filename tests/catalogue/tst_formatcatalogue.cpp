@@ -16,7 +16,8 @@ private slots:
     void formats_data()
     {
         // "tab index, token, extension value, filter with the default extension"; index -1
-        // for a token that names no format
+        // for a token that names no format; or "converter" with the program's path and the
+        // converter's path made from it
         QTest::addColumn<QString>("row");
         QTest::newRow("bmp") << "0 bmp ext_bmp BMP Format (*.bmp)";
         QTest::newRow("png") << "1 png ext_png PNG Format (*.png)";
@@ -32,10 +33,21 @@ private slots:
         QTest::newRow("djvu") << "11 djvu ext_djvu DjVu Format (*.djvu)";
         QTest::newRow("capitals") << "-1 PDF";
         QTest::newRow("an extension") << "-1 xls";
+        // The first occurrence of the program's name is removed, wherever it stands.
+        QTest::newRow("converter") << "converter /opt/vellumio/fmtask /opt/vellumio/dxconv";
+        QTest::newRow("folder holds name") << "converter /opt/fmtask/fmtask /opt//fmtaskdxconv";
+        QTest::newRow("suffix") << "converter /opt/v/fmtask-old /opt/v/-olddxconv";
+        // Not found: only the last character goes, so the converter is not found.
+        QTest::newRow("other capitals")
+            << "converter /opt/vellumio/FMTASK /opt/vellumio/FMTASdxconv";
     }
     void formats()
     {
         QFETCH(QString, row);
+        if (row.startsWith("converter ")) {
+            QCOMPARE(RunProtocol::converterPath(row.section(' ', 1, 1)), row.section(' ', 2));
+            return;
+        }
         const Formats::Format *format = Formats::byToken(row.section(' ', 1, 1));
         QCOMPARE(format, Formats::byIndex(row.section(' ', 0, 0).toInt()));
         QVERIFY(!Formats::byIndex(-1) && !Formats::byIndex(Formats::Count));
@@ -43,26 +55,6 @@ private slots:
             QCOMPARE(row.section(' ', 0, 1) + ' ' + format->extensionKey + ' '
                     + Formats::filterText(*format, QLatin1String(format->defaultExtension)),
                 row);
-    }
-
-    void converterPath_data()
-    {
-        QTest::addColumn<QString>("program");
-        QTest::addColumn<QString>("converter");
-        // clang-format off
-        QTest::newRow("absolute")         << "/opt/vellumio/fmtask"    << "/opt/vellumio/dxconv";
-        // The first occurrence is removed, wherever it stands.
-        QTest::newRow("folder holds name") << "/opt/fmtask/fmtask"     << "/opt//fmtaskdxconv";
-        QTest::newRow("suffix")           << "/opt/v/fmtask-old"       << "/opt/v/-olddxconv";
-        // Not found: only the last character goes, so the converter is not found.
-        QTest::newRow("other capitals")   << "/opt/vellumio/FMTASK"    << "/opt/vellumio/FMTASdxconv";
-        // clang-format on
-    }
-    void converterPath()
-    {
-        QFETCH(QString, program);
-        QFETCH(QString, converter);
-        QCOMPARE(RunProtocol::converterPath(program), converter);
     }
 
     void centreOnScreen()

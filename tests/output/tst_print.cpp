@@ -58,13 +58,12 @@ private slots:
         QFETCH(QString, setup);
         QFETCH(QString, outcome);
         OpenWindow w(false);
-        JobFixture &job = w.job;
         const QByteArray machine = QByteArray("[General]\nisabort=false\nformat=bmp\n")
             + "settings_for_all_users=" + (setup.contains("all") ? "true" : "false") + '\n';
         const QByteArray user = "[General]\nisabort=false\nformat=png\nq_jpg=42\n";
-        job.writeFile(job.machineFile(), machine);
-        job.writeFile(job.userFile(), user);
-        w.window = job.createWindow(false); // loads the keys just written
+        w.job.writeFile(w.job.machineFile(), machine);
+        w.job.writeFile(w.job.userFile(), user);
+        w.window = w.job.createWindow(false); // loads the keys just written
         const QString root = QDir::cleanPath(w.job.dir.path());
         const QString file = root + '/' + name + ".pdf";
         if (setup.contains("file"))
@@ -81,10 +80,9 @@ private slots:
         w.tabs()->setCurrentIndex(Formats::Pdf);
         w.fileName()->setText(root + '/' + name);
 
-        if (setup.startsWith("cancel"))
-            w.window->pb_cancel();
-        else
-            setup.startsWith("close") ? void(w.window->close()) : w.window->pb_print();
+        setup.startsWith("cancel")      ? w.window->pb_cancel()
+            : setup.startsWith("close") ? void(w.window->close())
+                                        : w.window->pb_print();
 
         QString asked;
         for (const ScriptedPrompts::Question &q : std::as_const(w.prompts.questions)) {
@@ -99,8 +97,8 @@ private slots:
         asked += QFileInfo::exists(file) ? " kept" : "";
         if (setup.startsWith('c'))
             asked += " | "
-                + QString(JobFixture::bytesOf(job.userFile()) + "| "
-                    + JobFixture::bytesOf(job.machineFile()))
+                + QString(JobFixture::bytesOf(w.job.userFile()) + "| "
+                    + JobFixture::bytesOf(w.job.machineFile()))
                       .replace('\n', ' ');
         outcome.replace("%M", missing).replace("%R", replace).replace("%P", permission);
         QCOMPARE(asked, outcome.replace("%T", root).replace("%N", file));
