@@ -39,17 +39,12 @@ private slots:
         QCoreApplication::setApplicationName("saveasonly");
         job = std::make_unique<JobFixture>();
         out = job->path("out/");
-        writes.clear();
         SettingsKey::setWriteObserver([](SettingsScope scope, const QString &name,
                                           const QVariant &value) {
             writes << (scope == SettingsScope::User ? "U " : "M ") + name + '=' + value.toString();
         });
     }
-    void cleanup()
-    {
-        SettingsKey::setWriteObserver(nullptr);
-        QDir::setCurrent(QDir::tempPath());
-    }
+    void cleanup() { QDir::setCurrent(QDir::tempPath()); }
     void outcome_data()
     {
         // files: the answers of the Save As dialogs asked one after another ("" = cancelled, "@"

@@ -22,19 +22,20 @@ T *child(const QObject &dialog, const QString &name)
 }
 
 // The password fields: user, its repeat, owner, its repeat.
-QLineEdit *password(const QObject &dialog, int i)
-{
-    return child<QLineEdit>(dialog, fields[6 + i / 2] + (i % 2 ? "_2" : ""));
-}
+const QStringList passwords
+    = {"le_pdf_user_pw", "le_pdf_user_pw_2", "le_pdf_owner_pw", "le_pdf_owner_pw_2"};
 
-// What the dialog shows, in the order of `fields`.
-QStringList shown(const pdfprotect &dialog)
+// What the dialog shows, in the order of `fields`; with `change`, every field is then changed,
+// each to a value of its own.
+QStringList shown(const pdfprotect &dialog, bool change = false)
 {
     QStringList values;
     for (const QString &name : fields) {
-        const auto *edit = child<QLineEdit>(dialog, name);
-        values << (edit ? edit->text()
-                        : QVariant(child<QCheckBox>(dialog, name)->isChecked()).toString());
+        auto *edit = child<QLineEdit>(dialog, name);
+        auto *box = child<QCheckBox>(dialog, name);
+        values << (edit ? edit->text() : QVariant(box->isChecked()).toString());
+        if (change)
+            edit ? edit->setText(name.mid(7)) : box->toggle();
     }
     return values;
 }
@@ -86,20 +87,13 @@ private slots:
             QStringLiteral("Pr\u00f6ducer "), "user", "owner", stored,
             {true, false, true, false, true, false, true, false}};
         pdfprotect dialog;
-        // Every field shows its own job value; all are changed, each to a value of its own.
-        const QStringList loaded = QStringLiteral(
-            "Title|Author|Subject|Keywords|Creator|"
-            "Pr\u00f6ducer |user|owner|true|false|true|false|true|false|true|false")
-                                       .split('|');
-        QCOMPARE(shown(dialog), loaded);
-        for (const QString &name : fields) {
-            if (auto *edit = child<QLineEdit>(dialog, name))
-                edit->setText(name.mid(7));
-            else
-                child<QCheckBox>(dialog, name)->toggle();
-        }
+        // Every field shows its own job value, then all are changed.
+        const QStringList loaded = {"Title", "Author", "Subject", "Keywords", "Creator",
+            QStringLiteral("Pr\u00f6ducer "), "user", "owner", "true", "false", "true", "false",
+            "true", "false", "true", "false"};
+        QCOMPARE(shown(dialog, true), loaded);
         for (int i = 0; i < 4; ++i)
-            password(dialog, i)->setText(typed.section(',', i, i));
+            child<QLineEdit>(dialog, passwords[i])->setText(typed.section(',', i, i));
         auto *security = child<QComboBox>(dialog, "cb_security");
         QCOMPARE(security->currentText(), stored ? "Password Encryption" : "No Encryption");
         if (chosen >= 0)
@@ -108,7 +102,9 @@ private slots:
         QCOMPARE(child(dialog, "gb_pdf_protect")->isEnabled(), on);
         child<QPushButton>(dialog, button)->click();
 
-        QCOMPARE(password(dialog, 1)->text() + ',' + password(dialog, 3)->text(), repeats);
+        QCOMPARE(child<QLineEdit>(dialog, passwords[1])->text() + ','
+                + child<QLineEdit>(dialog, passwords[3])->text(),
+            repeats);
         QCOMPARE(prompts.questions.size(), title.isEmpty() ? 0 : 1);
         for (const ScriptedPrompts::Question &asked : std::as_const(prompts.questions)) {
             QVERIFY(asked.parent == &dialog && asked.buttons == QMessageBox::Ok);
@@ -132,7 +128,7 @@ private slots:
         for (int round = 0; round < 3;
              ++round, child<QCheckBox>(dialog, "ch_showchars_pw")->click())
             for (int i = 0; i < 4; ++i)
-                modes += QString::number(password(dialog, i)->echoMode());
+                modes += QString::number(child<QLineEdit>(dialog, passwords[i])->echoMode());
         QCOMPARE(modes, "222200002222");
         QStringList next;
         for (const char *name : {"pb_ok", "le_pdf_title", "le_pdf_subject", "le_pdf_user_pw",
@@ -146,8 +142,8 @@ private slots:
         QVERIFY(QCoreApplication::installTranslator(&translator));
         QTRY_COMPARE(dialog.windowTitle(), "~ Advanced PDF Settings ");
         const auto *security = child<QComboBox>(dialog, "cb_security");
-        QVERIFY(security->itemText(1) == "~Password Encryption" && security->currentIndex() == 1);
-        QVERIFY(jobSettings().pdf.protect);
+        QVERIFY(security->itemText(1) == "~Password Encryption" && security->currentIndex() == 1
+            && jobSettings().pdf.protect);
         QCoreApplication::removeTranslator(&translator);
         QTRY_COMPARE(dialog.windowTitle(), " Advanced PDF Settings ");
     }

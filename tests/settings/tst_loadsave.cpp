@@ -40,11 +40,6 @@ private slots:
             writes << (scope == SettingsScope::User ? "U " : "M ") + name + '=' + value.toString();
         });
     }
-    void cleanup()
-    {
-        SettingsKey::setWriteObserver(nullptr);
-        m_window.reset();
-    }
     void loading_data()
     {
         QTest::addColumn<QString>("user"); // values in the user key
@@ -258,10 +253,7 @@ private:
             return QString::number(box->value());
         if (auto *edit = qobject_cast<QLineEdit *>(shown))
             return edit->text();
-        auto *button = qobject_cast<QAbstractButton *>(shown);
-        const bool on
-            = button ? button->isChecked() : qobject_cast<QGroupBox *>(shown)->isChecked();
-        return on ? QStringLiteral("checked") : QStringLiteral("unchecked");
+        return shown->property("checked").toBool() ? "checked" : "unchecked"; // button or group
     }
 
     std::unique_ptr<JobFixture> m_job;
