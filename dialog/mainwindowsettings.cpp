@@ -16,12 +16,16 @@ namespace {
 
 using Settings::Value;
 
-// The check boxes that show a flag value of the table as it is stored.
-struct FlagBox
+// A widget of the form that shows one value of the table as it is stored.
+template<class Widget>
+struct Binding
 {
     Value value;
-    QCheckBox *Ui::MainWindow::*box;
+    Widget *Ui::MainWindow::*widget;
 };
+
+// The check boxes that show a flag value of the table.
+using FlagBox = Binding<QCheckBox>;
 
 // clang-format off
 const FlagBox flagBoxes[] = {
@@ -44,11 +48,7 @@ const FlagBox flagBoxes[] = {
 };
 
 // The quality spin boxes, in the order loading reads them.
-struct QualityBox
-{
-    Value value;
-    QSpinBox *Ui::MainWindow::*box;
-};
+using QualityBox = Binding<QSpinBox>;
 
 const QualityBox qualityBoxes[] = {
     {Settings::QHtm, &Ui::MainWindow::spb_q_htm},
@@ -76,22 +76,25 @@ const Value permissionOrder[] = {Settings::PdfProtectPrint, Settings::PdfProtect
     Settings::PdfProtectCopy, Settings::PdfProtectEditNotes, Settings::PdfProtectFillAndSign,
     Settings::PdfProtectAccessible, Settings::PdfProtectAssemble, Settings::PdfProtectHighPrint};
 
-QCheckBox *flagBox(Ui::MainWindow *ui, Value value)
+// The widget bound to a value, or nullptr when none of the bindings shows it.
+template<class Widget, size_t Count>
+Widget *boundWidget(Ui::MainWindow *ui, const Binding<Widget> (&bindings)[Count], Value value)
 {
-    for (const FlagBox &binding : flagBoxes) {
+    for (const Binding<Widget> &binding : bindings) {
         if (binding.value == value)
-            return ui->*binding.box;
+            return ui->*binding.widget;
     }
     return nullptr;
 }
 
+QCheckBox *flagBox(Ui::MainWindow *ui, Value value)
+{
+    return boundWidget(ui, flagBoxes, value);
+}
+
 QSpinBox *qualityBox(Ui::MainWindow *ui, Value value)
 {
-    for (const QualityBox &binding : qualityBoxes) {
-        if (binding.value == value)
-            return ui->*binding.box;
-    }
-    return nullptr;
+    return boundWidget(ui, qualityBoxes, value);
 }
 
 bool *permissionFlag(PdfPermissions &permissions, Value value)
@@ -210,7 +213,7 @@ void MainWindow::loadSettings()
     selectFormat(job.formatToken);
 
     for (const QualityBox &binding : qualityBoxes)
-        (ui->*binding.box)->setValue(key.integer(binding.value));
+        (ui->*binding.widget)->setValue(key.integer(binding.value));
 
     for (Value value : multipageReadOrder)
         flagBox(ui, value)->setChecked(key.flag(value));
