@@ -1,13 +1,13 @@
-#include "filesavedialog.h"
+#include "app/filesavedialog.h"
 #include "ui_filesavedialog.h"
 
-#include "exchangevalues.h"
-#include "formatcatalogue.h"
-#include "jobsettings.h"
-#include "mainwindow.h"
-#include "pathhelpers.h"
-#include "prompts.h"
-#include "windoworder.h"
+#include "dialog/mainwindow.h"
+#include "formats/formatcatalogue.h"
+#include "formats/pathhelpers.h"
+#include "platform/prompts.h"
+#include "platform/windoworder.h"
+#include "settings/exchangevalues.h"
+#include "settings/jobsettings.h"
 
 #include <QEvent>
 #include <QFile>

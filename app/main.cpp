@@ -1,9 +1,6 @@
-#include "runprotocol.h"
-
-#include <QtPlugin>
-
-// The modern style is linked in and found by name through QStyleFactory.
-Q_IMPORT_PLUGIN(WindowsModernStylePlugin)
+// The program the driver starts once per print job. The modern style comes with the style library
+// it links, so QStyleFactory finds it by name.
+#include "app/runprotocol.h"
 
 int main(int argc, char *argv[])
 {

@@ -1,9 +1,9 @@
-#include "runprotocol.h"
+#include "app/runprotocol.h"
 
-#include "filesavedialog.h"
-#include "jobsettings.h"
-#include "mainwindow.h"
-#include "windoworder.h"
+#include "app/filesavedialog.h"
+#include "dialog/mainwindow.h"
+#include "platform/windoworder.h"
+#include "settings/jobsettings.h"
 
 #include <QApplication>
 #include <QGuiApplication>

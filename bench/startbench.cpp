@@ -1,5 +1,5 @@
-#include "jobsettings.h"
-#include "mainwindow.h"
+#include "dialog/mainwindow.h"
+#include "settings/jobsettings.h"
 
 #include <QApplication>
 #include <QByteArray>

@@ -1,10 +1,10 @@
-#include "mainwindow.h"
+#include "dialog/mainwindow.h"
 #include "ui_mainwindow.h"
 
-#include "formatcatalogue.h"
-#include "jobsettings.h"
-#include "pdfprotect.h"
-#include "windoworder.h"
+#include "formats/formatcatalogue.h"
+#include "pdf/pdfprotect.h"
+#include "platform/windoworder.h"
+#include "settings/jobsettings.h"
 
 #include <QFile>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 #ifndef FMTASK_MAINWINDOW_H
 #define FMTASK_MAINWINDOW_H
 
-#include "settingsscope.h"
+#include "settings/settingsscope.h"
 
 #include <QMainWindow>
 #include <QString>

@@ -1,12 +1,12 @@
-#include "mainwindow.h"
+#include "dialog/mainwindow.h"
 #include "ui_mainwindow.h"
 
-#include "exchangevalues.h"
-#include "formatcatalogue.h"
-#include "jobsettings.h"
-#include "pathhelpers.h"
-#include "prompts.h"
-#include "windoworder.h"
+#include "formats/formatcatalogue.h"
+#include "formats/pathhelpers.h"
+#include "platform/prompts.h"
+#include "platform/windoworder.h"
+#include "settings/exchangevalues.h"
+#include "settings/jobsettings.h"
 
 #include <QDir>
 #include <QFile>

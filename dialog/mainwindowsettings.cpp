@@ -1,12 +1,12 @@
-#include "mainwindow.h"
+#include "dialog/mainwindow.h"
 #include "ui_mainwindow.h"
 
-#include "exchangevalues.h"
-#include "formatcatalogue.h"
-#include "jobsettings.h"
-#include "passwordscrambling.h"
-#include "pathhelpers.h"
-#include "settingskey.h"
+#include "formats/formatcatalogue.h"
+#include "formats/pathhelpers.h"
+#include "settings/exchangevalues.h"
+#include "settings/jobsettings.h"
+#include "settings/passwordscrambling.h"
+#include "settings/settingskey.h"
 
 #include <QApplication>
 #include <QStyle>

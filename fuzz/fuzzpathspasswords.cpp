@@ -1,5 +1,5 @@
-#include "passwordscrambling.h"
-#include "pathhelpers.h"
+#include "formats/pathhelpers.h"
+#include "settings/passwordscrambling.h"
 
 #include <QString>
 

@@ -1,12 +1,11 @@
-#include "jobsettings.h"
-#include "mainwindow.h"
+#include "dialog/mainwindow.h"
+#include "settings/jobsettings.h"
 
 #include <QApplication>
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QtPlugin>
 
 #include <cstddef>
 #include <cstdint>
@@ -17,7 +16,6 @@
 #include <unistd.h>
 
 // As in the program, so that a stored style name can reach the modern style.
-Q_IMPORT_PLUGIN(WindowsModernStylePlugin)
 
 namespace {
 

@@ -1,8 +1,8 @@
-#include "pdfprotect.h"
+#include "pdf/pdfprotect.h"
 #include "ui_pdfprotect.h"
 
-#include "jobsettings.h"
-#include "prompts.h"
+#include "platform/prompts.h"
+#include "settings/jobsettings.h"
 
 #include <QEvent>
 

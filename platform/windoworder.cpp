@@ -1,4 +1,4 @@
-#include "windoworder.h"
+#include "platform/windoworder.h"
 
 #include <QWidget>
 #include <QWindow>

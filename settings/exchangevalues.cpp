@@ -1,6 +1,6 @@
-#include "exchangevalues.h"
+#include "settings/exchangevalues.h"
 
-#include "settingskey.h"
+#include "settings/settingskey.h"
 
 namespace ExchangeValues {
 

@@ -1,7 +1,7 @@
 #ifndef FMTASK_EXCHANGEVALUES_H
 #define FMTASK_EXCHANGEVALUES_H
 
-#include "settingsscope.h"
+#include "settings/settingsscope.h"
 
 #include <QString>
 

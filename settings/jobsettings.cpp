@@ -1,4 +1,4 @@
-#include "jobsettings.h"
+#include "settings/jobsettings.h"
 
 JobSettings::JobSettings()
 {

@@ -1,7 +1,7 @@
 #ifndef FMTASK_JOBSETTINGS_H
 #define FMTASK_JOBSETTINGS_H
 
-#include "formatcatalogue.h"
+#include "formats/formatcatalogue.h"
 
 #include <QString>
 

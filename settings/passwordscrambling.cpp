@@ -1,4 +1,4 @@
-#include "passwordscrambling.h"
+#include "settings/passwordscrambling.h"
 
 #include <QByteArray>
 

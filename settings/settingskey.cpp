@@ -1,4 +1,4 @@
-#include "settingskey.h"
+#include "settings/settingskey.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,8 @@
 #ifndef FMTASK_SETTINGSKEY_H
 #define FMTASK_SETTINGSKEY_H
 
-#include "settingsschema.h"
-#include "settingsscope.h"
+#include "settings/settingsschema.h"
+#include "settings/settingsscope.h"
 
 #include <QHash>
 #include <QSettings>

@@ -1,6 +1,6 @@
-#include "settingsschema.h"
+#include "settings/settingsschema.h"
 
-#include "formatcatalogue.h"
+#include "formats/formatcatalogue.h"
 
 namespace Settings {
 

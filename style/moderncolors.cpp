@@ -1,4 +1,4 @@
-#include "moderncolors.h"
+#include "style/moderncolors.h"
 
 #include <QPalette>
 

@@ -1,4 +1,4 @@
-#include "themedetection.h"
+#include "style/themedetection.h"
 
 #include <QLibrary>
 #include <QString>

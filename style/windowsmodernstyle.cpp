@@ -1,7 +1,7 @@
-#include "windowsmodernstyle.h"
+#include "style/windowsmodernstyle.h"
 
-#include "modernmetrics.h"
-#include "themedetection.h"
+#include "style/modernmetrics.h"
+#include "style/themedetection.h"
 
 #include <QAbstractButton>
 #include <QApplication>

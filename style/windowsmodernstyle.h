@@ -1,7 +1,7 @@
 #ifndef FMTASK_WINDOWSMODERNSTYLE_H
 #define FMTASK_WINDOWSMODERNSTYLE_H
 
-#include "moderncolors.h"
+#include "style/moderncolors.h"
 
 #include <QProxyStyle>
 

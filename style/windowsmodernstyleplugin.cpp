@@ -1,6 +1,6 @@
-#include "windowsmodernstyleplugin.h"
+#include "style/windowsmodernstyleplugin.h"
 
-#include "windowsmodernstyle.h"
+#include "style/windowsmodernstyle.h"
 
 QStyle *WindowsModernStylePlugin::create(const QString &key)
 {

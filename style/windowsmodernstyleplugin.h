@@ -3,8 +3,8 @@
 
 #include <QStylePlugin>
 
-// Offers the modern style to QStyleFactory under the name "windowsmodernstyle"; linked into the
-// program and imported with Q_IMPORT_PLUGIN(WindowsModernStylePlugin).
+// Offers the modern style to QStyleFactory under the name "windowsmodernstyle". Linking the style
+// library imports it into the program.
 class WindowsModernStylePlugin : public QStylePlugin
 {
     Q_OBJECT

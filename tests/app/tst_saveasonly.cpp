@@ -1,9 +1,9 @@
-#include "filesavedialog.h"
-#include "jobfixture.h"
-#include "markingtranslator.h"
-#include "runprotocol.h"
-#include "scriptedprompts.h"
-#include "settingskey.h"
+#include "app/filesavedialog.h"
+#include "app/runprotocol.h"
+#include "settings/settingskey.h"
+#include "tests/support/jobfixture.h"
+#include "tests/support/markingtranslator.h"
+#include "tests/support/scriptedprompts.h"
 
 #include <QTest>
 #include <QtWidgets>

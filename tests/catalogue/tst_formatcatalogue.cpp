@@ -1,5 +1,5 @@
-#include "formatcatalogue.h"
-#include "runprotocol.h"
+#include "app/runprotocol.h"
+#include "formats/formatcatalogue.h"
 
 #include <QGuiApplication>
 #include <QScreen>

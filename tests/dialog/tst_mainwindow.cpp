@@ -1,6 +1,6 @@
-#include "formatcatalogue.h"
-#include "markingtranslator.h"
-#include "openwindow.h"
+#include "formats/formatcatalogue.h"
+#include "tests/support/markingtranslator.h"
+#include "tests/support/openwindow.h"
 #include "ui_mainwindow.h"
 
 #include <QApplication>
@@ -65,9 +65,9 @@ private slots:
 
         for (const char *row : tree) {
             const QString expected = QString::fromLatin1(row);
-            const QWidget *w = host.findChild<QWidget *>(expected.section(' ', 0, 0));
-            QVERIFY2(w, row);
-            QCOMPARE(describe(w, expected.contains(" | ")), expected);
+            const QWidget *widget = host.findChild<QWidget *>(expected.section(' ', 0, 0));
+            QVERIFY2(widget, row);
+            QCOMPARE(describe(widget, expected.contains(" | ")), expected);
         }
         // The page order is checked against the formats by the window's tests.
         QCOMPARE(ui.tabWidget->currentIndex(), 6);

@@ -1,4 +1,4 @@
-#include "openwindow.h"
+#include "tests/support/openwindow.h"
 
 #include <QApplication>
 #include <QTest>

@@ -1,5 +1,5 @@
-#include "openwindow.h"
-#include "pathhelpers.h"
+#include "formats/pathhelpers.h"
+#include "tests/support/openwindow.h"
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
-#include "jobsettings.h"
-#include "markingtranslator.h"
-#include "pdfprotect.h"
-#include "scriptedprompts.h"
+#include "pdf/pdfprotect.h"
+#include "settings/jobsettings.h"
+#include "tests/support/markingtranslator.h"
+#include "tests/support/scriptedprompts.h"
 
 #include <QTest>
 #include <QtWidgets>

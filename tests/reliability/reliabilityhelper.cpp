@@ -1,12 +1,11 @@
-#include "jobsettings.h"
-#include "mainwindow.h"
-#include "runprotocol.h"
-#include "scriptedprompts.h"
+#include "app/runprotocol.h"
+#include "dialog/mainwindow.h"
+#include "settings/jobsettings.h"
+#include "tests/support/scriptedprompts.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QTimer>
-#include <QtPlugin>
 
 #include <cstdio>
 #include <cstdlib>
@@ -42,7 +41,6 @@ void pressPrintWhenShown()
 } // namespace
 
 Q_COREAPP_STARTUP_FUNCTION(pressPrintWhenShown)
-Q_IMPORT_PLUGIN(WindowsModernStylePlugin) // as in the program: the modern style found by name
 
 int main(int argc, char *argv[])
 {

@@ -1,4 +1,4 @@
-#include "jobfixture.h"
+#include "tests/support/jobfixture.h"
 
 #include <QDeadlineTimer>
 #include <QProcess>

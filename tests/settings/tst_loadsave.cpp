@@ -1,14 +1,11 @@
-#include "formatcatalogue.h"
-#include "jobfixture.h"
-#include "settingskey.h"
+#include "formats/formatcatalogue.h"
+#include "settings/settingskey.h"
+#include "tests/support/jobfixture.h"
 
 #include <QTest>
-#include <QtPlugin>
 #include <QtWidgets>
 
 #include <unistd.h>
-
-Q_IMPORT_PLUGIN(WindowsModernStylePlugin)
 
 namespace {
 

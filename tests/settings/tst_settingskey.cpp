@@ -1,6 +1,6 @@
-#include "jobfixture.h"
-#include "passwordscrambling.h"
-#include "settingskey.h"
+#include "settings/passwordscrambling.h"
+#include "settings/settingskey.h"
+#include "tests/support/jobfixture.h"
 
 #include <QTest>
 #include <QtCore>

@@ -1,14 +1,11 @@
-#include "moderncolors.h"
-#include "windowsmodernstyle.h"
-#include "windowsmodernstyleplugin.h"
+#include "style/moderncolors.h"
+#include "style/windowsmodernstyle.h"
+#include "style/windowsmodernstyleplugin.h"
 
-#include <QtPlugin>
 #include <QtTest>
 #include <QtWidgets>
 
 #include <memory>
-
-Q_IMPORT_PLUGIN(WindowsModernStylePlugin)
 
 namespace {
 const QColor Untouched(255, 0, 255); // whatever the style leaves alone keeps this colour

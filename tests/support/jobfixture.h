@@ -1,8 +1,8 @@
 #ifndef FMTASK_TESTS_JOBFIXTURE_H
 #define FMTASK_TESTS_JOBFIXTURE_H
 
-#include "jobsettings.h"
-#include "mainwindow.h"
+#include "dialog/mainwindow.h"
+#include "settings/jobsettings.h"
 
 #include <QDir>
 #include <QFile>

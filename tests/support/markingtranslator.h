@@ -8,8 +8,8 @@
 // run time would change it.
 struct MarkingTranslator : public QTranslator
 {
-    explicit MarkingTranslator(const char *context)
-        : context(context)
+    explicit MarkingTranslator(const char *markedContext)
+        : context(markedContext)
     { }
 
     bool isEmpty() const override { return false; }

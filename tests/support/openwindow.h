@@ -1,8 +1,8 @@
 #ifndef FMTASK_TESTS_OPENWINDOW_H
 #define FMTASK_TESTS_OPENWINDOW_H
 
-#include "jobfixture.h"
-#include "scriptedprompts.h"
+#include "tests/support/jobfixture.h"
+#include "tests/support/scriptedprompts.h"
 
 #include <QLineEdit>
 #include <QTabWidget>

@@ -1,8 +1,8 @@
 #ifndef FMTASK_TESTS_SCRIPTEDPROMPTS_H
 #define FMTASK_TESTS_SCRIPTEDPROMPTS_H
 
-#include "prompts.h"
-#include "windoworder.h"
+#include "platform/prompts.h"
+#include "platform/windoworder.h"
 
 #include <QList>
 #include <QPointer>

@@ -2,9 +2,6 @@
 
 #include <QApplication>
 #include <QStyleFactory>
-#include <QtPlugin>
-
-Q_IMPORT_PLUGIN(WindowsModernStylePlugin)
 
 // Shows the preview window in the modern style, or in the style named by the first argument
 // (for instance "Fusion", to compare with the base).

@@ -1,4 +1,4 @@
-#include "formatcatalogue.h"
+#include "formats/formatcatalogue.h"
 
 namespace Formats {
 

@@ -1,4 +1,4 @@
-#include "pathhelpers.h"
+#include "formats/pathhelpers.h"
 
 namespace PathHelpers {
 
