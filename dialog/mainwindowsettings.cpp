@@ -330,8 +330,8 @@ void MainWindow::saveSettingsTo(SettingsScope scope)
         default:
             if (QSpinBox *box = qualityBox(ui, value))
                 key.setInteger(value, box->value());
-            else if (QCheckBox *box = flagBox(ui, value))
-                key.setFlag(value, box->isChecked());
+            else if (QCheckBox *check = flagBox(ui, value))
+                key.setFlag(value, check->isChecked());
             break;
         }
     }
