@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialog/mainwindow.h"
 #include "settings/jobsettings.h"
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Builds the start-up benchmark in Release and runs it: fmtask against a bare main window,
 # launched alternately, then loading and saving in process. Prints a Markdown table.
 #   scripts/bench.sh              offscreen platform (no display needed)

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Builds the libFuzzer targets with clang (address and undefined-behaviour sanitizers over the whole
 # program) in build-fuzz and runs each from its seed corpus for a bounded time. Any crash, leak,
 # sanitizer report or broken rule fails the script. FUZZ_SECONDS sets the time per target (60).

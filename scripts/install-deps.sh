@@ -1,9 +1,15 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs the Debian 12 packages that building and testing fmtask need, and only those missing.
 # Extra package names given as arguments are installed too. Uses sudo when not run as root.
 set -euo pipefail
 
-packages=(cmake g++ make qt6-base-dev fontconfig fonts-dejavu-core "$@")
+# Building and the dialog's tests, then the tools that rendering runs and the tests read outputs
+# with, then the print path's own: a private CUPS, a virtual display and a key presser.
+packages=(cmake g++ make qt6-base-dev fontconfig fonts-dejavu-core
+    ghostscript poppler-utils qpdf libtiff-tools netpbm libopenjp2-tools pdf2djvu djvulibre-bin
+    zlib1g-dev openssl
+    cups cups-client cups-bsd xvfb xdotool x11-utils "$@")
 missing=()
 for package in "${packages[@]}"; do
     if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed'; then

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs what is missing, builds fmtask and opens the dialog for a sample print job, as the
 # driver would: one argument, the proposed file name.
 set -euo pipefail

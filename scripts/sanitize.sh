@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Builds fmtask and its tests with AddressSanitizer and UndefinedBehaviorSanitizer in build-asan
 # and runs the whole test suite with leak detection on. Any sanitizer report fails the suite.
 set -euo pipefail

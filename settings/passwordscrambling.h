@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #ifndef FMTASK_PASSWORDSCRAMBLING_H
 #define FMTASK_PASSWORDSCRAMBLING_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "formats/formatcatalogue.h"
 #include "tests/support/markingtranslator.h"
 #include "tests/support/openwindow.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "pdf/pdfprotect.h"
 #include "settings/jobsettings.h"
 #include "tests/support/markingtranslator.h"

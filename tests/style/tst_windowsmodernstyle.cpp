@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "style/moderncolors.h"
 #include "style/windowsmodernstyle.h"
 #include "style/windowsmodernstyleplugin.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #ifndef FMTASK_TESTS_OPENWINDOW_H
 #define FMTASK_TESTS_OPENWINDOW_H
 
