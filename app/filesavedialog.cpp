@@ -7,11 +7,11 @@
 #include "formats/pathhelpers.h"
 #include "platform/prompts.h"
 #include "platform/windoworder.h"
+#include "platform/writetest.h"
 #include "settings/exchangevalues.h"
 #include "settings/jobsettings.h"
 
 #include <QEvent>
-#include <QFile>
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -81,16 +81,13 @@ bool startStep(MainWindow &window)
     }
 
     name = PathHelpers::toNativeSeparators(name);
-    QFile file(name);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+    if (!WriteTest::createAndRemove(name)) {
         Prompts::current().message(nullptr, FileSaveDialog::tr("Vellumio"),
             FileSaveDialog::tr("You have no permission to write in this directory.\n"
                                "Please, choose another one."),
             QMessageBox::Ok);
         return false;
     }
-    // The file was only a write test; the driver creates it afresh.
-    file.remove();
     job.outputFolder = PathHelpers::directoryPart(name);
     job.newFileName = PathHelpers::stripExtension(PathHelpers::fileNamePart(name));
 

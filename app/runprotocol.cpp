@@ -63,7 +63,7 @@ bool startStep(MainWindow &window)
     return true;
 }
 
-int run(int &argc, char **argv)
+int run(int argc, char **argv)
 {
     if (argc < 2)
         return 0;
@@ -71,7 +71,11 @@ int run(int &argc, char **argv)
     JobSettings &job = jobSettings();
     job.converterPath = converterPath(QString::fromLocal8Bit(argv[0]));
 
-    QApplication application(argc, argv);
+    // Driver contract: the one argument is the proposed file name and nothing else. Qt is given
+    // only the program's path, so a name such as "-reverse" or "-stylesheet=x.qss" stays a name.
+    int qtArgc = 1;
+    char *qtArgv[] = {argv[0], nullptr};
+    QApplication application(qtArgc, qtArgv);
     job.newFileName = QString::fromLocal8Bit(argv[1]);
 
     MainWindow window;

@@ -28,7 +28,7 @@ void centreOnScreen(QWidget *window);
 bool startStep(MainWindow &window);
 
 // The whole run of the program for a command line; returns the exit status.
-int run(int &argc, char **argv);
+int run(int argc, char **argv);
 
 } // namespace RunProtocol
 

@@ -6,11 +6,11 @@
 #include "formats/pathhelpers.h"
 #include "platform/prompts.h"
 #include "platform/windoworder.h"
+#include "platform/writetest.h"
 #include "settings/exchangevalues.h"
 #include "settings/jobsettings.h"
 
 #include <QDir>
-#include <QFile>
 
 namespace {
 
@@ -102,7 +102,7 @@ void MainWindow::pb_print()
     }
 
     const QString name = fullOutputFileName();
-    if (!nameChosenByDialog && QFile::exists(name)) {
+    if (!nameChosenByDialog && WriteTest::occupied(name)) {
         const QMessageBox::StandardButton answer = prompts.message(nullptr, tr("Vellumio"),
             name + tr(" already exists.\n") + tr("Do you want to replace it?"),
             QMessageBox::Yes | QMessageBox::No);
@@ -110,12 +110,7 @@ void MainWindow::pb_print()
             return;
     }
 
-    // Creating the file is the only reliable test of write access; it is removed again so the
-    // driver writes a fresh one. A NUL would cut the name short in the system call and create
-    // (or truncate) another file, so such a name counts as one that cannot be created.
-    QFile file(name);
-    if (!name.contains(QChar(0)) && file.open(QIODevice::WriteOnly | QIODevice::Text)) {
-        file.remove();
+    if (WriteTest::createAndRemove(name)) {
         saveAllSettings();
         close();
         return;

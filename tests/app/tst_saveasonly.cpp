@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The program's run as the driver starts it: the save-as-only mode end to end, the argument taken
+// as the name and nothing else, and the banner.
 #include "app/filesavedialog.h"
 #include "app/runprotocol.h"
+#include "dialog/mainwindow.h"
+#include "platform/windoworder.h"
 #include "settings/settingskey.h"
 #include "tests/support/jobfixture.h"
 #include "tests/support/markingtranslator.h"
@@ -9,26 +13,60 @@
 #include <QTest>
 #include <QtWidgets>
 
+#include <sys/stat.h>
+
 namespace {
 
 QStringList writes; // "U name=value" or "M name=value", in the order handed to the store
 
-// Answers each Save As with the next file of a list.
+// Answers each Save As with the next file of a list and remembers where the banner stood.
 class SaveAsAnswers : public ScriptedPrompts
 {
 public:
     QStringList files;
+    QList<QPoint> bannerPositions;
     QString saveFileName(QWidget *parent, const QString &caption, const QString &path,
         const QString &filters, QString *selectedFilter) override
     {
+        bannerPositions << parent->pos();
         chosenFile = files.isEmpty() ? QString() : files.takeFirst();
         return ScriptedPrompts::saveFileName(parent, caption, path, filters, selectedFilter);
     }
 };
 
+// What the main dialog showed when it came up in the normal mode, recorded before Print or Cancel
+// is pressed on it.
+struct ShownDialog
+{
+    bool shown = false;
+    bool topmost = false;
+    QString fileName;
+    Qt::LayoutDirection direction = Qt::LeftToRight;
+    QString styleSheet;
+};
+ShownDialog shownDialog;
+bool pressPrint = false; // otherwise Cancel
+
+// Runs in every application the tests make; only the normal mode's dialog is ever shown.
+void answerShownDialog()
+{
+    QTimer::singleShot(0, qApp, [] {
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            auto *window = qobject_cast<MainWindow *>(widget);
+            if (!window || !window->isVisible())
+                continue;
+            shownDialog = {true, WindowOrder::isTopmost(window),
+                window->findChild<QLineEdit *>("le_filename")->text(),
+                QGuiApplication::layoutDirection(), qApp->styleSheet()};
+            pressPrint ? window->pb_print() : window->pb_cancel();
+        }
+    });
+}
+
 } // namespace
 
-// The save-as-only mode run through RunProtocol::run as the driver starts the program.
+Q_COREAPP_STARTUP_FUNCTION(answerShownDialog)
+
 class tst_SaveAsOnly : public QObject
 {
     Q_OBJECT
@@ -40,48 +78,59 @@ private slots:
         QCoreApplication::setApplicationName("saveasonly");
         job = std::make_unique<JobFixture>();
         out = job->path("out/");
+        QVERIFY(QDir().mkpath(out));
+        writes.clear();
         SettingsKey::setWriteObserver([](SettingsScope scope, const QString &name,
                                           const QVariant &value) {
             writes << (scope == SettingsScope::User ? "U " : "M ") + name + '=' + value.toString();
         });
     }
-    void cleanup() { QDir::setCurrent(QDir::tempPath()); }
+    void cleanup()
+    {
+        SettingsKey::setWriteObserver(nullptr);
+        QDir::setCurrent(QDir::tempPath());
+    }
+
     void outcome_data()
     {
-        // files: the answers of the Save As dialogs asked one after another ("" = cancelled, "@"
-        // the output folder, relative names land in the current folder, the output folder);
-        // filter: left selected; converter: the DjVu converter lies beside the program; expected:
-        // the writes, "@" for the output folder
-        QTest::addColumn<QString>("files");
-        QTest::addColumn<QString>("filter");
+        QTest::addColumn<QStringList>("files"); // the answers of the Save As dialogs, in turn
+        QTest::addColumn<bool>("inFolder"); // the answers name the output folder; else bare
+        QTest::addColumn<QString>("filter"); // left selected in Save As
         QTest::addColumn<bool>("allUsers");
-        QTest::addColumn<bool>("converter");
-        QTest::addColumn<QString>("expected");
-        const QString saved = "U isabort=false U newfilename=%1 U Path=@ U format=%2";
+        QTest::addColumn<bool>("converter"); // the DjVu converter lies beside the program
+        QTest::addColumn<QString>("name"); // newfilename saved; null: the job is cancelled
+        QTest::addColumn<QString>("format");
 
+        const QString pdf = QStringLiteral("PDF Format (*.pdf)");
+        const QString png = QStringLiteral("PNG Format (*.png)");
         // clang-format off
-        QTest::newRow("pdf")              << "@report.pdf" << "PDF Format (*.pdf)"      << false << true  << saved.arg("report", "pdf");
-        QTest::newRow("pdf, all users")   << "@report.pdf" << "PDF Format (*.pdf)"      << true  << true  << saved.arg("report", "pdf") + ' ' + QString(saved).replace("U ", "M ").arg("report", "pdf");
-        QTest::newRow("djvu")             << "@scan.djvu"  << "DjVu Format (*.djvu)"    << false << true  << saved.arg("scan", "djvu");
-        // The RTF filter is fixed to *.rtf, whatever extension is stored for it.
-        QTest::newRow("rtf under doc")    << "@a.doc"      << "RTF Format (*.doc)"      << false << true  << saved.arg("a", "");
+        QTest::newRow("pdf")              << QStringList{"report.pdf"} << true  << pdf << false << true  << "report" << "pdf";
+        QTest::newRow("pdf, all users")   << QStringList{"report.pdf"} << true  << pdf << true  << true  << "report" << "pdf";
+        QTest::newRow("djvu")             << QStringList{"scan.djvu"}  << true  << "DjVu Format (*.djvu)" << false << true << "scan" << "djvu";
+        // Driver contract: the RTF filter is recognised by its fixed text only.
+        QTest::newRow("rtf under doc")    << QStringList{"a.doc"}      << true  << "RTF Format (*.doc)" << false << true << "a" << "";
         // A file that cannot be written brings a message and a new dialog.
-        QTest::newRow("unwritable twice") << "@no/a.png|@no/a.png|@b.png" << "PNG Format (*.png)" << false << false << saved.arg("b", "png");
-        QTest::newRow("3 characters")     << "abc"         << "PDF Format (*.pdf)"      << false << true  << "U isabort=false U newfilename=abc U Path= U format=pdf";
-        QTest::newRow("2 characters")     << "ab"          << "PDF Format (*.pdf)"      << false << true  << "U isabort=true";
-        QTest::newRow("cancelled, all")   << ""            << "PDF Format (*.pdf)"      << true  << true  << "M isabort=true U isabort=true";
+        QTest::newRow("unwritable twice") << QStringList{"no/a.png", "no/a.png", "b.png"} << true << png << false << false << "b" << "png";
+        QTest::newRow("pipe at the name") << QStringList{"pipe.png", "b.png"} << true << png << false << false << "b" << "png";
+        QTest::newRow("link at the name") << QStringList{"link.png"}   << true  << png << false << false << "link" << "png";
+        // Driver contract: this mode's own limit: 3 characters are a name, 2 are a cancel.
+        QTest::newRow("3 characters")     << QStringList{"abc"}        << false << pdf << false << true  << "abc" << "pdf";
+        QTest::newRow("2 characters")     << QStringList{"ab"}         << false << pdf << false << true  << QString() << "";
+        QTest::newRow("cancelled, all")   << QStringList{""}           << true  << pdf << true  << true  << QString() << "";
         // clang-format on
     }
     // Run as the driver starts the program: the save-as-only switch, the output folder and an RTF
     // extension stored where loading reads them (the machine key alone when all users share it),
-    // the argument Document1.
+    // the argument Document1; a pipe and a link to a file outside the folder wait at two names.
     void outcome()
     {
-        QFETCH(QString, files);
+        QFETCH(QStringList, files);
+        QFETCH(bool, inFolder);
         QFETCH(QString, filter);
         QFETCH(bool, allUsers);
         QFETCH(bool, converter);
-        QFETCH(QString, expected);
+        QFETCH(QString, name);
+        QFETCH(QString, format);
         job->writeFile(allUsers ? job->machineFile() : job->userFile(),
             ("chDialog_SaveAs=true\npath=" + out
                 + "\next_rtf=doc\nsettings_for_all_users=" + (allUsers ? "true" : "false"))
@@ -89,19 +138,19 @@ private slots:
         if (converter)
             job->writeFile(job->path("bin/" + RunProtocol::converterFileName()), {});
         job->writeFile(out + "report.pdf", "previous job"); // replaced: the driver writes afresh
+        job->writeFile(job->path("kept.png"), "not in the folder");
+        QVERIFY(QFile::link(job->path("kept.png"), out + "link.png"));
+        QCOMPARE(::mkfifo(QFile::encodeName(out + "pipe.png").constData(), 0600), 0);
         QVERIFY(QDir::setCurrent(out));
         SaveAsAnswers prompts;
-        prompts.files = QString(files).replace('@', out).split('|');
+        for (const QString &file : std::as_const(files))
+            prompts.files << (inFolder && !file.isEmpty() ? out + file : file);
         prompts.chosenFilter = filter;
-        QByteArray program = job->path("bin/" + RunProtocol::programFileName()).toLocal8Bit();
-        QByteArray argument = "Document1";
-        char *argv[] = {program.data(), argument.data(), nullptr};
-        int argc = 2;
-        writes.clear();
-        QCOMPARE(RunProtocol::run(argc, argv), 0);
 
-        QVERIFY(prompts.saveAsCalls.size() == files.count('|') + 1
-            && prompts.questions.size() == files.count('|'));
+        QCOMPARE(runProgram({"Document1"}), 0);
+
+        QCOMPARE(prompts.saveAsCalls.size(), files.size());
+        QCOMPARE(prompts.questions.size(), files.size() - 1);
         for (const ScriptedPrompts::Question &asked : std::as_const(prompts.questions))
             QCOMPARE(asked.text,
                 "You have no permission to write in this directory.\nPlease, choose another one.");
@@ -110,16 +159,74 @@ private slots:
         // extension, HTML last. The labels are the catalogue suite's.
         const QString djvu = converter ? "DjVu Format (*.djvu);;" : "";
         for (const ScriptedPrompts::SaveAs &asked : std::as_const(prompts.saveAsCalls)) {
-            QCOMPARE(asked.caption + '|' + asked.path + '|' + asked.preselectedFilter,
-                "Save File As...|" + out + "Document1|" + "TIFF Format (*.tif)");
-            QVERIFY(asked.filters.endsWith("SWF Format (*.swf);;" + djvu
-                + "RTF Format (*.doc);;MS Excel Format (*.xls);;HTML Format (*.html)"));
+            QCOMPARE(asked.caption, "Save File As...");
+            QCOMPARE(asked.path, out + "Document1");
+            QCOMPARE(asked.preselectedFilter, "TIFF Format (*.tif)");
+            QVERIFY2(asked.filters.endsWith("SWF Format (*.swf);;" + djvu
+                         + "RTF Format (*.doc);;MS Excel Format (*.xls);;HTML Format (*.html)"),
+                qPrintable(asked.filters));
         }
-        QCOMPARE(writes.join(' '), QString(expected).replace('@', out));
-        // The write test leaves no file behind, and an earlier file of that name is gone.
-        QCOMPARE(QDir(out).entryList(QDir::Files).join(' '),
-            expected.contains("=report ") ? "" : "report.pdf");
+        // The banner's frame (406 x 55 and the offscreen platform's 2-pixel border) stands 40
+        // pixels left of the right edge of the 800 x 800 screen, three frame heights above its
+        // bottom edge.
+        for (const QPoint &position : std::as_const(prompts.bannerPositions))
+            QCOMPARE(position, QPoint(799 - 410 - 40, 799 - 3 * 59));
+
+        QCOMPARE(writes, expectedWrites(name, inFolder ? out : QString(), format, allUsers));
+        // The write test leaves nothing behind: an earlier file or link of the chosen name is
+        // gone, what a link pointed to is untouched, and a pipe is never opened.
+        QCOMPARE(QFileInfo::exists(out + "report.pdf"), name != "report");
+        QCOMPARE(QFileInfo(out + "link.png").isSymLink(), name != "link");
+        QCOMPARE(JobFixture::bytesOf(job->path("kept.png")), "not in the folder");
+        QVERIFY(QFileInfo(out + "pipe.png").exists());
+        QVERIFY(!QFileInfo::exists(out + "b.png") && !QFileInfo::exists(out + "abc"));
     }
+
+    void argumentIsTheName_data()
+    {
+        QTest::addColumn<QByteArrayList>("arguments"); // after the program's path
+        QTest::addColumn<QString>("name"); // what the dialog shows and Print saves
+        QTest::addColumn<bool>("printable"); // the system can create a file of that name
+        const QByteArray styleSheet = QFile::encodeName(QDir::temp().filePath("any.qss"));
+        // clang-format off
+        QTest::newRow("Qt's -reverse")      << QByteArrayList{"-reverse"}                 << "-reverse"          << true;
+        QTest::newRow("Qt's -platform")     << QByteArrayList{"-platform", "x"}           << "-platform"         << true;
+        QTest::newRow("Qt's -style=")       << QByteArrayList{"-style=Fusion"}            << "-style=Fusion"     << true;
+        QTest::newRow("Qt's -stylesheet=")  << QByteArrayList{"-stylesheet=" + styleSheet} << QString::fromLocal8Bit("-stylesheet=" + styleSheet) << false;
+        QTest::newRow("spaces only")        << QByteArrayList{"   "}                      << "   "               << true;
+        QTest::newRow("line break")         << QByteArrayList{"two\nlines"}               << "two\nlines"        << true;
+        // As the locale decodes it: bytes that are no UTF-8 become replacement characters.
+        QTest::newRow("not UTF-8")          << QByteArrayList{"a\xff\xfe"}                << QString::fromLocal8Bit("a\xff\xfe") << true;
+        QTest::newRow("10,000 characters")  << QByteArrayList{QByteArray(10000, 'n')}     << QString(10000, 'n') << false;
+        // clang-format on
+    }
+    // The argument is the proposed file name and nothing else: Qt never reads it as an option.
+    void argumentIsTheName()
+    {
+        QFETCH(QByteArrayList, arguments);
+        QFETCH(QString, name);
+        QFETCH(bool, printable);
+        QFile styleSheet(QDir::temp().filePath("any.qss"));
+        QVERIFY(styleSheet.open(QIODevice::WriteOnly));
+        styleSheet.write("QLineEdit { color: red }");
+        styleSheet.close();
+        job->writeFile(job->userFile(), ("path=" + out).toUtf8());
+        shownDialog = {};
+        pressPrint = printable;
+
+        QCOMPARE(runProgram(arguments), 0);
+
+        styleSheet.remove();
+        QVERIFY(shownDialog.shown);
+        QVERIFY(shownDialog.topmost); // in front of the printing application from the start
+        QCOMPARE(shownDialog.fileName, out + name);
+        QCOMPARE(shownDialog.direction, Qt::LeftToRight);
+        QCOMPARE(shownDialog.styleSheet, QString());
+        const QString saved = JobFixture::valueOf(job->userFile(), "newfilename");
+        QCOMPARE(saved, printable ? name : QString());
+        QCOMPARE(JobFixture::valueOf(job->userFile(), "isabort"), printable ? "false" : "true");
+    }
+
     // The banner follows a language installed while it is up.
     void bannerLanguageChange()
     {
@@ -135,6 +242,7 @@ private slots:
         QCoreApplication::removeTranslator(&translator);
         QTRY_COMPARE(banner.windowTitle() + '|' + label->text(), "Vellumio|" + text);
     }
+
     void noArgumentWritesNothing()
     {
         const QString binary = qEnvironmentVariable("FMTASK_BINARY");
@@ -147,6 +255,36 @@ private slots:
     }
 
 private:
+    // The program's whole run with these words after its path, as the driver starts it.
+    int runProgram(QByteArrayList arguments)
+    {
+        QByteArray program = job->path("bin/" + RunProtocol::programFileName()).toLocal8Bit();
+        QList<char *> argv {program.data()};
+        for (QByteArray &argument : arguments)
+            argv << argument.data();
+        argv << nullptr;
+        int argc = int(argv.size()) - 1;
+        return RunProtocol::run(argc, argv.data());
+    }
+
+    // The exchange values of a saved or cancelled job in the order the driver finds them: this
+    // mode saves the user key first, while a cancel goes to the machine key first.
+    static QStringList expectedWrites(
+        const QString &name, const QString &folder, const QString &format, bool allUsers)
+    {
+        QStringList user;
+        if (name.isNull())
+            user << "U isabort=true";
+        else
+            user << "U isabort=false"
+                 << "U newfilename=" + name << "U Path=" + folder << "U format=" + format;
+        QStringList machine = user;
+        machine.replaceInStrings(QRegularExpression("^U "), "M ");
+        if (!allUsers)
+            return user;
+        return name.isNull() ? machine + user : user + machine;
+    }
+
     std::unique_ptr<JobFixture> job;
     QString out; // a writable output folder, with its trailing separator
 };
