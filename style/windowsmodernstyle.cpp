@@ -130,7 +130,30 @@ void WindowsModernStyle::polish(QPalette &palette)
     // palette whatever theme it reports.
     m_colorScheme = ThemeDetection::currentColorScheme();
     m_colorScheme = ThemeDetection::PaletteScheme;
-    m_colors = ModernColors::fromPalette(QApplication::palette());
+    // Qt polishes the palette beneath the application's own roles, so those stay on top. At this
+    // point QApplication::palette() is still the previous one.
+    m_colors = ModernColors::fromPalette(QApplication::palette().resolve(palette));
+}
+
+void WindowsModernStyle::polish(QApplication *application)
+{
+    // A palette set on the application is laid over the polished one only after the polish, and
+    // announced by ApplicationPaletteChange.
+    application->installEventFilter(this);
+    QProxyStyle::polish(application);
+}
+
+void WindowsModernStyle::unpolish(QApplication *application)
+{
+    application->removeEventFilter(this);
+    QProxyStyle::unpolish(application);
+}
+
+bool WindowsModernStyle::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange)
+        m_colors = ModernColors::fromPalette(QApplication::palette());
+    return QProxyStyle::eventFilter(watched, event);
 }
 
 void WindowsModernStyle::polish(QWidget *widget)

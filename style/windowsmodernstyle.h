@@ -30,7 +30,10 @@ public:
     const ModernColors &colors() const { return m_colors; }
 
     void polish(QPalette &palette) override;
+    // Installed on the application, the style follows every change of its palette.
+    void polish(QApplication *application) override;
     void polish(QWidget *widget) override;
+    void unpolish(QApplication *application) override;
     void unpolish(QWidget *widget) override;
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
@@ -61,6 +64,9 @@ protected slots:
     int layoutSpacingImplementation(QSizePolicy::ControlType control1,
         QSizePolicy::ControlType control2, Qt::Orientation orientation,
         const QStyleOption *option = nullptr, const QWidget *widget = nullptr) const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     // Each draw function paints one element and returns false to let the base style paint it.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Tests of the modern style: its colours, its drawing pixel by pixel, geometry, metrics and polish.
 #include "style/moderncolors.h"
 #include "style/windowsmodernstyle.h"
-#include "style/windowsmodernstyleplugin.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -9,25 +9,67 @@
 #include <memory>
 
 namespace {
+
 const QColor Untouched(255, 0, 255); // whatever the style leaves alone keeps this colour
+const QColor AsBase; // in a pixel row: drawn exactly as the base style draws it
 constexpr int Base = -1000; // in a metric row: the base style's value
+const QRect ControlRect(10, 5, 80, 24); // tabs, tool-box tabs and menu-bar items
+const QRect ToolButtonRect(5, 4, 40, 24);
+const QRect DropDownRect(50, 4, 14, 24);
+
+QColor grey(int v)
+{
+    return QColor(v, v, v);
+}
+
+// Colours the palette of initTestCase() leads to.
+const QColor Button(200, 100, 50), Light = grey(250), Dark = grey(100), Highlight(50, 100, 200);
+const QColor BarTop(244, 224, 214), BarMiddle(228, 178, 153), MenuBackground(247, 233, 226);
+const QColor HoverFill(194, 209, 239), CheckedFill(224, 232, 247), PressedFill(163, 185, 230);
+const QColor BorderLight = grey(131), SeparatorDark = grey(147), GripShadow = grey(139);
+const QColor MenuBorder = grey(80);
+
+QPalette makePalette(const QColor &button, const QColor &base, const QColor &highlight)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Button, button);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::Highlight, highlight);
+    return palette;
+}
+
 } // namespace
 
-// The style's metrics, geometry, polish and drawing, on a main window's widgets and a dialog's.
+// The style's colours, drawing, geometry, metrics and polish, on a main window's widgets and a
+// dialog's.
 class tst_WindowsModernStyle : public QObject
 {
     Q_OBJECT
+
+public:
+    // What a pixel row draws.
+    enum Scene {
+        Handle,
+        BarSeparator,
+        MenuItem,
+        MenuSeparator,
+        MenuBarItem,
+        Tab,
+        ToolBoxTab,
+        ToolButton,
+        DropDown,
+        MainWindow
+    };
+    Q_ENUM(Scene)
 
 private slots:
     void initTestCase()
     {
         m_style.setBaseStyle(QStyleFactory::create("Windows")); // its buttons shift
-        QPalette palette;
-        palette.setColor(QPalette::Button, QColor(200, 100, 50));
-        palette.setColor(QPalette::Base, Qt::white);
-        palette.setColor(QPalette::Dark, QColor(100, 100, 100));
-        palette.setColor(QPalette::Light, QColor(250, 250, 250));
-        palette.setColor(QPalette::Highlight, QColor(50, 100, 200));
+        QPalette palette = makePalette(Button, Qt::white, Highlight);
+        palette.setColor(QPalette::Dark, Dark);
+        palette.setColor(QPalette::Light, Light);
+        palette.setColor(QPalette::Text, Qt::black);
         QApplication::setPalette(palette);
         m_style.polish(palette);
         auto *mainTabs = new QTabWidget;
@@ -37,15 +79,18 @@ private slots:
         westTabs->setTabPosition(QTabWidget::West);
         auto *southBar = new QTabBar(&m_mainWindow);
         southBar->setShape(QTabBar::RoundedSouth);
-        auto *barButton = new QToolButton;
+        auto *barButton = new QToolButton, *sideButton = new QToolButton;
         m_mainWindow.addToolBar("Tools")->addWidget(barButton);
+        QToolBar *side = m_mainWindow.addToolBar("Side");
+        side->setOrientation(Qt::Vertical);
+        side->addWidget(sideButton);
         m_mainWindow.statusBar()->setGeometry(0, 170, 200, 30);
         auto *dialogBar = new QTabBar(&m_dialog);
         dialogBar->setShape(QTabBar::RoundedSouth);
         m_widgets = {{"main window", &m_mainWindow}, {"main tabs", mainTabs},
             {"main bar", mainTabs->tabBar()}, {"south bar", southBar},
             {"west bar", westTabs->tabBar()}, {"bar button", barButton},
-            {"loose button", new QToolButton(&m_dialog)},
+            {"side button", sideButton}, {"loose button", new QToolButton(&m_dialog)},
             {"dialog tabs", new QTabWidget(&m_dialog)}, {"dialog bar", dialogBar}};
     }
 
@@ -68,70 +113,121 @@ private slots:
 
     void pixels_data()
     {
-        QTest::addColumn<QString>("scene");
+        QTest::addColumn<Scene>("scene");
+        QTest::addColumn<QStyle::State>("state");
+        QTest::addColumn<QByteArray>("widget"); // empty: drawn without a widget
         QTest::addColumn<QPoint>("point");
-        QTest::addColumn<QColor>("expected"); // none: drawn exactly as the base style draws it
+        QTest::addColumn<QColor>("expected");
         QTest::addColumn<int>("tolerance"); // gradients get some slack
-        // Colours the palette set up in initTestCase() leads to.
-        const auto grey = [](int v) { return QColor(v, v, v); };
-        const QColor button(200, 100, 50), light = grey(250), menu(247, 233, 226),
-                                           hover(194, 209, 239);
-        const auto row
-            = [](const char *scene, QPoint point, const QColor &expected, int tolerance = 0) {
-                  QTest::addRow("%s at %d,%d", scene, point.x(), point.y())
-                      << QString(scene) << point << expected << tolerance;
-              };
-        for (const bool across : {false, true}) { // " h": in a horizontal bar
+        using S = QStyle;
+        const S::State on = S::State_Enabled, hover = on | S::State_MouseOver,
+                       pressed = on | S::State_Sunken, checked = on | S::State_On,
+                       selected = on | S::State_Selected;
+        const auto row = [](const char *name, Scene scene, S::State state, const char *widget,
+                             QPoint point, const QColor &expected, int tolerance = 0) {
+            QTest::addRow("%s at %d,%d", name, point.x(), point.y())
+                << scene << state << QByteArray(widget) << point << expected << tolerance;
+        };
+        for (const bool across : {false, true}) { // handle and separator of a horizontal bar
             const auto at = [across](int a, int b) { return across ? QPoint(b, a) : QPoint(a, b); };
-            const char *handle = across ? "handle h" : "handle";
-            const char *separator = across ? "bar separator h" : "bar separator";
-            for (int i : {4, 9, 14}) // the dark square covers the light one where they overlap
-                row(handle, at(i + 1, 4), grey(139)), row(handle, at(i + 2, 5), light);
-            row(handle, at(19, 3), Untouched);
-            for (int a : {2, 17})
-                row(separator, at(a, 2), grey(147)), row(separator, at(a, 3), light);
-            row(separator, at(18, 2), Untouched);
+            const S::State state = across ? S::State_Horizontal : S::State_None;
+            const char *handle = across ? "horizontal handle" : "handle";
+            const char *separator = across ? "horizontal bar separator" : "bar separator";
+            for (int i : {4, 9, 14}) { // the dark square covers the light one where they overlap
+                row(handle, Handle, state, "", at(i + 1, 4), GripShadow);
+                row(handle, Handle, state, "", at(i + 2, 5), Light);
+            }
+            row(handle, Handle, state, "", at(19, 3), Untouched);
+            for (int a : {2, 17}) {
+                row(separator, BarSeparator, state, "", at(a, 2), SeparatorDark);
+                row(separator, BarSeparator, state, "", at(a, 3), Light);
+            }
+            row(separator, BarSeparator, state, "", at(18, 2), Untouched);
         }
-        row("menu item", {0, 11}, QColor(244, 224, 214), 4); // icon column gradient
-        row("menu item", {24, 11}, button, 4);
-        row("menu item", {25, 0}, menu);
-        row("menu separator", {32, 10}, grey(147));
-        row("menu separator", {31, 10}, menu);
+        // clang-format off
+        // name                         scene          state     widget          point     expected  tolerance
+        row("menu item",                MenuItem,      on,       "",             {0, 11},  BarTop,   4);
+        row("menu item",                MenuItem,      on,       "",             {24, 11}, Button,   4);
+        row("menu item",                MenuItem,      on,       "",             {25, 0},  MenuBackground);
+        row("selected menu item",       MenuItem,      selected, "",             {100, 11}, HoverFill);
+        row("selected menu item",       MenuItem,      selected, "",             {1, 11},  Highlight);
+        row("selected menu item",       MenuItem,      selected, "",             {0, 11},  Untouched);
+        row("disabled selected item",   MenuItem,      S::State_Selected, "",    {100, 11}, MenuBackground);
+        row("checked menu item",        MenuItem,      checked,  "",             {4, 3},   CheckedFill);
+        row("checked menu item",        MenuItem,      checked,  "",             {2, 3},   Highlight);
+        row("checked selected item",    MenuItem,      checked | selected, "",   {4, 3},   PressedFill);
+        row("menu separator",           MenuSeparator, on,       "",             {32, 10}, SeparatorDark);
+        row("menu separator",           MenuSeparator, on,       "",             {31, 10}, MenuBackground);
+        // An open menu-bar item stays open towards its menu: its frame ends below the item.
+        row("open menu bar item",       MenuBarItem,   pressed,  "",             {50, 6},  BarTop,   4);
+        row("open menu bar item",       MenuBarItem,   pressed,  "",             {50, 28}, BarMiddle, 4);
+        row("open menu bar item",       MenuBarItem,   pressed,  "",             {10, 15}, MenuBorder);
+        row("open menu bar item",       MenuBarItem,   pressed,  "",             {50, 29}, MenuBorder);
+        row("hovered menu bar item",    MenuBarItem,   selected, "",             {50, 15}, HoverFill);
+        row("hovered menu bar item",    MenuBarItem,   selected, "",             {10, 15}, Highlight);
+        row("disabled menu bar item",   MenuBarItem,   S::State_Sunken, "",      {50, 15}, Untouched);
         // The selected tab reaches two pixels over its left neighbour and one into the pane.
-        row("selected tab", {8, 17}, grey(100));
-        row("selected tab", {7, 17}, Untouched);
-        row("selected tab", {49, 6}, hover, 8);
-        row("hovered tab", {10, 17}, grey(131));
-        row("hovered tab", {9, 17}, Untouched);
-        row("hovered tab", {49, 7}, hover, 8);
-        // Main window: the gradient is complete at three fifths of the width and stops above the
-        // status bar, which gets a light line on top.
-        row("main window", {0, 100}, button, 3);
-        row("main window", {125, 169}, QColor(244, 223, 213), 1);
-        row("main window", {199, 170}, light);
-        row("main window", {100, 171}, Untouched);
-        // Tabs outside a main window and tool buttons outside a tool bar are left to the base
-        // style.
-        row("selected dialog tab", {50, 17}, QColor());
-        row("loose tool button", {25, 16}, QColor());
+        row("selected tab",             Tab,           selected, "main bar",     {8, 17},  Dark);
+        row("selected tab",             Tab,           selected, "main bar",     {7, 17},  Untouched);
+        row("selected tab",             Tab,           selected, "main bar",     {49, 6},  HoverFill, 8);
+        row("hovered tab",              Tab,           hover,    "main bar",     {10, 17}, BorderLight);
+        row("hovered tab",              Tab,           hover,    "main bar",     {9, 17},  Untouched);
+        row("hovered tab",              Tab,           hover,    "main bar",     {49, 7},  HoverFill);
+        row("plain tab",                Tab,           on,       "main bar",     {49, 7},  BarMiddle, 8);
+        row("plain tab",                Tab,           on,       "main bar",     {49, 27}, Button,   8);
+        // Below the pages the gradients run upwards, from the tab's outer edge to the pane.
+        row("plain south tab",          Tab,           on,       "south bar",    {49, 25}, BarMiddle, 4);
+        row("plain south tab",          Tab,           on,       "south bar",    {49, 5},  Button,   8);
+        row("selected south tab",       Tab,           selected, "south bar",    {49, 26}, HoverFill, 8);
+        row("selected dialog tab",      Tab,           selected, "dialog bar",   {50, 17}, AsBase);
+        row("pressed tool box tab",     ToolBoxTab,    pressed,  "",             {50, 15}, PressedFill);
+        row("pressed tool box tab",     ToolBoxTab,    pressed,  "",             {10, 15}, Dark);
+        row("hovered tool box tab",     ToolBoxTab,    hover,    "",             {50, 15}, HoverFill);
+        row("hovered tool box tab",     ToolBoxTab,    hover,    "",             {10, 15}, Dark);
+        row("plain tool box tab",       ToolBoxTab,    on,       "",             {50, 6},  BarMiddle, 8);
+        row("plain tool box tab",       ToolBoxTab,    on,       "",             {50, 27}, Button,   8);
+        row("plain tool box tab",       ToolBoxTab,    on,       "",             {10, 15}, BorderLight);
+        row("disabled tool box tab",    ToolBoxTab,    S::State_MouseOver, "",   {50, 6},  BarMiddle, 8);
+        row("checked bar button",       ToolButton,    checked,  "bar button",   {25, 16}, CheckedFill);
+        row("checked bar button",       ToolButton,    checked,  "bar button",   {5, 16},  Highlight);
+        row("hovered bar button",       ToolButton,    hover,    "bar button",   {25, 16}, HoverFill);
+        row("hovered checked button",   ToolButton,    hover | checked, "bar button", {25, 16}, PressedFill);
+        row("pressed bar button",       ToolButton,    pressed,  "bar button",   {25, 16}, PressedFill);
+        row("plain bar button",         ToolButton,    on,       "bar button",   {25, 16}, Untouched);
+        row("checked side button",      ToolButton,    checked,  "side button",  {25, 16}, CheckedFill);
+        row("loose tool button",        ToolButton,    hover | checked, "loose button", {25, 16}, AsBase);
+        // The drop-down box shares the button's right border, one pixel left of its own rectangle.
+        row("hovered drop-down",        DropDown,      hover,    "bar button",   {51, 6},  HoverFill);
+        row("hovered drop-down",        DropDown,      hover,    "bar button",   {49, 15}, Highlight);
+        row("pressed drop-down",        DropDown,      pressed,  "bar button",   {51, 6},  PressedFill);
+        row("pressed side drop-down",   DropDown,      pressed,  "side button",  {51, 6},  PressedFill);
+        row("plain drop-down",          DropDown,      on,       "bar button",   {51, 6},  Untouched);
+        row("loose drop-down",          DropDown,      hover,    "loose button", {51, 6},  Untouched);
+        // The main window's gradient is complete at three fifths of the width and stops above
+        // the status bar, which gets a light line on top.
+        row("main window",              MainWindow,    on,       "main window",  {0, 100}, Button,   3);
+        row("main window",              MainWindow,    on,       "main window",  {125, 169}, QColor(244, 223, 213), 1);
+        row("main window",              MainWindow,    on,       "main window",  {199, 170}, Light);
+        row("main window",              MainWindow,    on,       "main window",  {100, 171}, Untouched);
+        // clang-format on
     }
 
     void pixels()
     {
-        QFETCH(QString, scene);
+        QFETCH(Scene, scene);
+        QFETCH(QStyle::State, state);
+        QFETCH(QByteArray, widget);
         QFETCH(QPoint, point);
         QFETCH(QColor, expected);
         QFETCH(int, tolerance);
-        const QImage image = draw(scene, &m_style), base = draw(scene, m_style.baseStyle());
+        const QImage image = draw(scene, state, widget, &m_style);
         if (!expected.isValid()) {
+            const QImage base = draw(scene, state, widget, m_style.baseStyle());
             QVERIFY(image == base);
             expected = base.pixelColor(point);
             QVERIFY(expected != Untouched); // the base did draw there
         }
-        const QColor actual = image.pixelColor(point);
-        const int off = std::max({qAbs(actual.red() - expected.red()),
-            qAbs(actual.green() - expected.green()), qAbs(actual.blue() - expected.blue())});
-        QVERIFY2(off <= tolerance, qPrintable(actual.name() + " instead of " + expected.name()));
+        comparePixel(image, point, expected, tolerance);
     }
 
     void geometry()
@@ -167,33 +263,61 @@ private slots:
         QVERIFY(!fills("dialog tabs"));
     }
 
-    void widgetRules()
+    void pixelMetric_data()
     {
-        // Metrics on widgets in and out of a main window (Base: the base style's value).
-        using Metric = std::tuple<const char *, QStyle::PixelMetric, int>;
-        for (const auto &[name, metric, expected] :
-            {Metric("bar button", QStyle::PM_ButtonShiftVertical, 0),
-                Metric("loose button", QStyle::PM_ButtonShiftVertical, Base),
-                Metric("south bar", QStyle::PM_TabBarTabShiftVertical, -2),
-                Metric("dialog bar", QStyle::PM_TabBarTabShiftVertical, Base),
-                Metric("main tabs", QStyle::PM_TabBarBaseOverlap, 0)}) {
-            const int base = m_style.baseStyle()->pixelMetric(metric, nullptr, widget(name));
-            QVERIFY2(m_style.pixelMetric(metric, nullptr, widget(name))
-                    == (expected == Base ? base : expected),
-                name);
-        }
-        // Polishing sets the attribute only where listed; unpolishing always clears it.
-        using Row = std::tuple<const char *, Qt::WidgetAttribute, bool>;
-        for (const auto &[name, attribute, set] :
-            {Row("main window", Qt::WA_StyledBackground, true), Row("main bar", Qt::WA_Hover, true),
-                Row("west bar", Qt::WA_Hover, false), Row("dialog bar", Qt::WA_Hover, false)}) {
-            QWidget *target = widget(name);
-            target->setAttribute(attribute, false);
-            m_style.polish(target);
-            QVERIFY2(target->testAttribute(attribute) == set, name);
-            m_style.unpolish(target);
-            QVERIFY2(!target->testAttribute(attribute), name);
-        }
+        QTest::addColumn<QByteArray>("widget");
+        QTest::addColumn<QStyle::PixelMetric>("metric");
+        QTest::addColumn<int>("expected"); // Base: the base style's value
+        QTest::newRow("tool-bar button does not shift")
+            << QByteArray("bar button") << QStyle::PM_ButtonShiftVertical << 0;
+        QTest::newRow("dialog button shifts as the base")
+            << QByteArray("loose button") << QStyle::PM_ButtonShiftVertical << Base;
+        QTest::newRow("south tabs shift up")
+            << QByteArray("south bar") << QStyle::PM_TabBarTabShiftVertical << -2;
+        QTest::newRow("north tabs shift down")
+            << QByteArray("main bar") << QStyle::PM_TabBarTabShiftVertical << 2;
+        QTest::newRow("dialog tabs shift as the base")
+            << QByteArray("dialog bar") << QStyle::PM_TabBarTabShiftVertical << Base;
+        QTest::newRow("main tabs overlap nothing")
+            << QByteArray("main tabs") << QStyle::PM_TabBarBaseOverlap << 0;
+    }
+
+    void pixelMetric()
+    {
+        QFETCH(QByteArray, widget);
+        QFETCH(QStyle::PixelMetric, metric);
+        QFETCH(int, expected);
+        QWidget *target = this->widget(widget);
+        if (expected == Base)
+            expected = m_style.baseStyle()->pixelMetric(metric, nullptr, target);
+        QCOMPARE(m_style.pixelMetric(metric, nullptr, target), expected);
+    }
+
+    void polishAttributes_data()
+    {
+        QTest::addColumn<QByteArray>("widget");
+        QTest::addColumn<Qt::WidgetAttribute>("attribute");
+        QTest::addColumn<bool>("set");
+        QTest::newRow("main window")
+            << QByteArray("main window") << Qt::WA_StyledBackground << true;
+        QTest::newRow("main-window tabs") << QByteArray("main bar") << Qt::WA_Hover << true;
+        QTest::newRow("west tabs") << QByteArray("west bar") << Qt::WA_Hover << false;
+        QTest::newRow("dialog tabs") << QByteArray("dialog bar") << Qt::WA_Hover << false;
+    }
+
+    // Polishing sets the attribute only where listed; unpolishing always clears it.
+    void polishAttributes()
+    {
+        QFETCH(QByteArray, widget);
+        QFETCH(Qt::WidgetAttribute, attribute);
+        QFETCH(bool, set);
+        QWidget *target = this->widget(widget);
+        QVERIFY(target);
+        target->setAttribute(attribute, false);
+        m_style.polish(target);
+        QCOMPARE(target->testAttribute(attribute), set);
+        m_style.unpolish(target);
+        QVERIFY(!target->testAttribute(attribute));
     }
 
     // Found by name in any case, listed once; a spaced name is another style.
@@ -205,50 +329,133 @@ private slots:
         QVERIFY(!std::unique_ptr<QStyle>(QStyleFactory::create("Windows Modern Style")));
     }
 
+    void paletteChange_data()
+    {
+        QTest::addColumn<QPalette>("before");
+        QTest::addColumn<QPalette>("after");
+        QTest::addColumn<QColor>("menu"); // menu background under "after"
+        QTest::addColumn<QColor>("selection"); // selected menu item under "after"
+        const QPalette light = makePalette(grey(240), grey(252), QColor(48, 120, 210));
+        const QPalette dark = makePalette(grey(53), grey(35), QColor(41, 128, 217));
+        const QPalette darkRed = makePalette(grey(53), grey(35), QColor(201, 41, 41));
+        QTest::newRow("light to dark") << light << dark << grey(38) << QColor(37, 63, 90);
+        QTest::newRow("dark to light") << dark << light << grey(250) << QColor(191, 212, 239);
+        QTest::newRow("new highlight") << dark << darkRed << grey(38) << QColor(85, 37, 37);
+    }
+
+    // Installed on the application, the style recolours as soon as the palette changes, as when
+    // the desktop switches to dark colours.
+    void paletteChange()
+    {
+        QFETCH(QPalette, before);
+        QFETCH(QPalette, after);
+        QFETCH(QColor, menu);
+        QFETCH(QColor, selection);
+        const QPalette previousPalette = QApplication::palette();
+        const QString previousStyle = QApplication::style()->name();
+        const auto restore = qScopeGuard([&] {
+            QApplication::setPalette(previousPalette);
+            QApplication::setStyle(previousStyle);
+        });
+        QApplication::setStyle(new WindowsModernStyle);
+        QApplication::setPalette(before);
+        QApplication::setPalette(after);
+        const QStyle *installed = QApplication::style();
+        comparePixel(draw(MenuItem, QStyle::State_Enabled, {}, installed), {100, 11}, menu, 0);
+        comparePixel(draw(MenuItem, QStyle::State_Enabled | QStyle::State_Selected, {}, installed),
+            {100, 11}, selection, 0);
+    }
+
 private:
-    QImage draw(const QString &scene, const QStyle *style)
+    static void comparePixel(
+        const QImage &image, QPoint point, const QColor &expected, int tolerance)
+    {
+        const QColor actual = image.pixelColor(point);
+        const int off = std::max({qAbs(actual.red() - expected.red()),
+            qAbs(actual.green() - expected.green()), qAbs(actual.blue() - expected.blue())});
+        QVERIFY2(off <= tolerance, qPrintable(actual.name() + " instead of " + expected.name()));
+    }
+
+    QImage draw(Scene scene, QStyle::State state, const QByteArray &on, const QStyle *style)
     {
         QImage image(200, 200, QImage::Format_ARGB32_Premultiplied);
         image.fill(Untouched);
         QPainter painter(&image);
-        const auto is = [&scene](const char *word) { return scene.contains(word); };
-        QStyleOption plain; // handles are 24 long and 12 across, separators 20 long and 7 across
-        plain.state = is(" h") ? QStyle::State_Horizontal : QStyle::State_None;
-        const QSize size = is("handle") ? QSize(24, 12) : QSize(20, 7);
-        plain.rect = QRect(QPoint(), is(" h") ? size.transposed() : size);
-        if (is("menu")) {
+        QWidget *target = on.isEmpty() ? nullptr : widget(on);
+        switch (scene) {
+        case Handle:
+        case BarSeparator: {
+            QStyleOption o; // handles are 24 long and 12 across, separators 20 long and 7 across
+            o.state = state;
+            const QSize size = scene == Handle ? QSize(24, 12) : QSize(20, 7);
+            o.rect = QRect(QPoint(), state & QStyle::State_Horizontal ? size.transposed() : size);
+            style->drawPrimitive(scene == Handle ? QStyle::PE_IndicatorToolBarHandle
+                                                 : QStyle::PE_IndicatorToolBarSeparator,
+                &o, &painter, target);
+            break;
+        }
+        case MenuItem:
+        case MenuSeparator:
+        case MenuBarItem: {
             QStyleOptionMenuItem o;
-            o.rect = QRect(0, 0, 200, 22);
-            o.state = QStyle::State_Enabled;
-            o.menuItemType
-                = is("separator") ? QStyleOptionMenuItem::Separator : QStyleOptionMenuItem::Normal;
-            style->drawControl(QStyle::CE_MenuItem, &o, &painter);
-        } else if (is("handle")) {
-            style->drawPrimitive(QStyle::PE_IndicatorToolBarHandle, &plain, &painter);
-        } else if (is("separator")) {
-            style->drawPrimitive(QStyle::PE_IndicatorToolBarSeparator, &plain, &painter);
-        } else if (is("tab")) {
+            o.rect = scene == MenuBarItem ? ControlRect : QRect(0, 0, 200, 22);
+            o.state = state;
+            o.menuItemType = scene == MenuSeparator ? QStyleOptionMenuItem::Separator
+                                                    : QStyleOptionMenuItem::Normal;
+            o.checked = state & QStyle::State_On;
+            o.checkType = o.checked ? QStyleOptionMenuItem::NonExclusive
+                                    : QStyleOptionMenuItem::NotCheckable;
+            style->drawControl(scene == MenuBarItem ? QStyle::CE_MenuBarItem : QStyle::CE_MenuItem,
+                &o, &painter, target);
+            break;
+        }
+        case Tab: {
             QStyleOptionTab o;
-            o.rect = QRect(10, 5, 80, 24);
+            o.rect = ControlRect;
             o.position = QStyleOptionTab::Middle;
-            o.state = QStyle::State_Enabled
-                | (is("hovered") ? QStyle::State_MouseOver : QStyle::State_Selected);
-            style->drawControl(QStyle::CE_TabBarTabShape, &o, &painter,
-                widget(is("dialog") ? "dialog bar" : "main bar"));
-        } else if (is("tool button")) {
+            o.state = state;
+            if (const auto *bar = qobject_cast<QTabBar *>(target))
+                o.shape = bar->shape();
+            style->drawControl(QStyle::CE_TabBarTabShape, &o, &painter, target);
+            break;
+        }
+        case ToolBoxTab: {
+            QStyleOptionToolBox o;
+            o.rect = ControlRect;
+            o.state = state;
+            style->drawControl(QStyle::CE_ToolBoxTabShape, &o, &painter, target);
+            break;
+        }
+        case ToolButton: {
             QStyleOptionToolButton o;
-            o.rect = QRect(5, 4, 40, 24);
-            o.state = QStyle::State_Enabled | QStyle::State_MouseOver | QStyle::State_On;
-            o.subControls = QStyle::SC_ToolButton;
-            style->drawComplexControl(QStyle::CC_ToolButton, &o, &painter, widget("loose button"));
-        } else {
-            plain.rect = image.rect();
-            style->drawPrimitive(QStyle::PE_Widget, &plain, &painter, &m_mainWindow);
+            o.rect = ToolButtonRect;
+            o.state = state;
+            o.subControls = o.activeSubControls = QStyle::SC_ToolButton;
+            style->drawComplexControl(QStyle::CC_ToolButton, &o, &painter, target);
+            break;
+        }
+        case DropDown:
+        case MainWindow: {
+            QStyleOption o;
+            o.rect = scene == DropDown ? DropDownRect : image.rect();
+            o.state = state;
+            style->drawPrimitive(
+                scene == DropDown ? QStyle::PE_IndicatorButtonDropDown : QStyle::PE_Widget, &o,
+                &painter, target);
+            break;
+        }
         }
         return image;
     }
 
-    QWidget *widget(const QByteArray &name) const { return m_widgets.value(name); }
+    // The widget set up under this name in initTestCase(); a missing name fails the test.
+    QWidget *widget(const QByteArray &name) const
+    {
+        QWidget *found = m_widgets.value(name);
+        if (!found)
+            QTest::qFail(qPrintable("no widget named " + name), __FILE__, __LINE__);
+        return found;
+    }
 
     WindowsModernStyle m_style;
     QMainWindow m_mainWindow;
