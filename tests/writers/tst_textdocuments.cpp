@@ -2,6 +2,7 @@
 // RTF and SpreadsheetML read back as a word processor and a spreadsheet would see their text.
 #include "writers/textdocuments.h"
 
+#include <QRegularExpression>
 #include <QTest>
 #include <QXmlStreamReader>
 
@@ -12,43 +13,29 @@ namespace {
 // The text of each page an RTF reader shows, lines ended by LF; empty when braces do not balance.
 QStringList rtfPages(const QByteArray &rtf)
 {
+    static const QRegularExpression token(R"(\\u(-?\d+) ?.|\\([a-z]+)-?\d* ?|\\(.)|([{}])|\n|(.))");
     QString text;
     int depth = 0;
-    int skipFrom = 0; // the depth of a destination group that holds no text, 0 for none
-    for (qsizetype at = 0; at < rtf.size(); ++at) {
-        const char c = rtf.at(at);
-        if (c == '{' || c == '}') {
-            depth += c == '{' ? 1 : -1;
+    int skipFrom = 0; // the depth of the font table's group while inside it
+    for (const QRegularExpressionMatch &match : token.globalMatch(QString::fromLatin1(rtf))) {
+        if (match.capturedLength(4)) {
+            depth += match.captured(4) == "{" ? 1 : -1;
             skipFrom = depth < skipFrom ? 0 : skipFrom;
-            if (depth < 0 || (depth == 0 && at != rtf.size() - 2))
+            if (depth < 0 || (depth == 0 && match.capturedEnd() + 1 < rtf.size()))
                 return {};
-        } else if (c == '\\' && QByteArray("\\{}").contains(rtf.at(at + 1))) {
-            text += QChar(rtf.at(++at));
-        } else if (c == '\\') {
-            qsizetype end = at + 1;
-            while (end < rtf.size() && std::isalpha(uchar(rtf.at(end))))
-                ++end;
-            const QByteArray word = rtf.mid(at + 1, end - at - 1);
-            qsizetype number = end;
-            while (number < rtf.size()
-                && (std::isdigit(uchar(rtf.at(number))) || rtf.at(number) == '-'))
-                ++number;
-            const int value = rtf.mid(end, number - end).toInt();
-            at = number < rtf.size() && rtf.at(number) == ' ' ? number : number - 1;
-            if (word == "fonttbl")
-                skipFrom = depth;
-            else if (!skipFrom && (word == "par" || word == "page" || word == "tab"))
-                text += word == "par" ? '\n' : word == "page" ? '\f' : '\t';
-            else if (!skipFrom && word == "u")
-                text += QChar(char16_t(value)), ++at; // and the fallback character after it
-        } else if (c != '\n' && c != '\r' && !skipFrom) {
-            text += QLatin1Char(c);
+        } else if (match.captured(2) == "fonttbl") {
+            skipFrom = depth;
+        } else if (!skipFrom) {
+            const QHash<QString, QString> words {{"par", "\n"}, {"page", "\f"}, {"tab", "\t"}};
+            text += match.capturedLength(1)
+                ? QString(QChar(char16_t(match.captured(1).toShort())))
+                : words.value(match.captured(2)) + match.captured(3) + match.captured(5);
         }
     }
     return depth == 0 ? text.split('\f') : QStringList();
 }
 
-// Worksheet names, rows of cell texts and the cells typed as numbers, as a spreadsheet reads them.
+// Rows of cell texts per worksheet, the worksheets' names and the cells typed as numbers.
 Sheets readSheets(const QByteArray &xml, QStringList *names, QStringList *numbers)
 {
     Sheets sheets;
@@ -56,13 +43,12 @@ Sheets readSheets(const QByteArray &xml, QStringList *names, QStringList *number
     while (!reader.atEnd()) {
         if (reader.readNext() != QXmlStreamReader::StartElement)
             continue;
-        const QStringView name = reader.name();
-        if (name == u"Worksheet") {
+        if (reader.name() == u"Worksheet") {
             *names += reader.attributes().value("ss:Name").toString();
             sheets += QList<QStringList>();
-        } else if (name == u"Row") {
+        } else if (reader.name() == u"Row") {
             sheets.last() += QStringList();
-        } else if (name == u"Data") {
+        } else if (reader.name() == u"Data") {
             const bool isNumber = reader.attributes().value("ss:Type") == u"Number";
             sheets.last().last() += reader.readElementText();
             if (isNumber)
@@ -81,45 +67,26 @@ class tst_TextDocuments : public QObject
     Q_OBJECT
 
 private slots:
-    void pagesOf_data()
-    {
-        QTest::addColumn<QByteArray>("output");
-        QTest::addColumn<QStringList>("pages");
-        QTest::newRow("two pages")
-            << QByteArray("a\n b\n\fc\n\f") << QStringList {"a\n b\n", "c\n"};
-        QTest::newRow("one blank page") << QByteArray("\f") << QStringList {""};
-        QTest::newRow("nothing") << QByteArray() << QStringList {};
-        QTest::newRow("no closing form feed") << QByteArray("a\fb") << QStringList {"a", "b"};
-        QTest::newRow("not UTF-8") << QByteArray("\xff\f") << QStringList {"\uFFFD"};
-    }
-    void pagesOf()
-    {
-        QFETCH(QByteArray, output);
-        QFETCH(QStringList, pages);
-        QCOMPARE(TextDocuments::pagesOf(output), pages);
-    }
-
     void rtf_data()
     {
-        QTest::addColumn<QStringList>("pages");
+        QTest::addColumn<QByteArray>("output"); // pdftotext's
         QTest::addColumn<QStringList>("shown");
-        const QStringList layout {"  Name      Amount\n  Tea         1.50\n"};
-        QTest::newRow("layout spaces") << layout << layout;
-        const QStringList scripts {"Grüße Ελλάδα 日本語 😀 עברית\n"};
-        QTest::newRow("non-Latin and astral") << scripts << scripts;
-        const QStringList syntax {"{\\rtf1 \\par} \\u123?\n"};
-        QTest::newRow("braces and backslashes") << syntax << syntax;
-        QTest::newRow("tabs, CR LF and controls") << QStringList {"a\tb\r\nc\x01"
-                                                                  "d"}
-                                                  << QStringList {"a\tb\nc\uFFFDd\n"};
-        const QStringList three {"one\n", "", "three\n"};
-        QTest::newRow("three pages, one blank") << three << three;
+        const QString layout = "  Name      Amount\n  Tea         1.50\n";
+        QTest::newRow("layout spaces") << (layout + "\f").toUtf8() << QStringList {layout};
+        const QString scripts = "Grüße Ελλάδα 日本語 😀 עברית\n";
+        QTest::newRow("non-Latin and astral") << (scripts + "\f").toUtf8() << QStringList {scripts};
+        const QString syntax = "{\\rtf1 \\par} \\u123?\n";
+        QTest::newRow("braces and backslashes") << (syntax + "\f").toUtf8() << QStringList {syntax};
+        QTest::newRow("tabs, CR LF, controls, not UTF-8")
+            << QByteArray("a\tb\r\nc\x01\xff.") << QStringList {"a\tb\nc\uFFFD\uFFFD.\n"};
+        QTest::newRow("three pages, one blank")
+            << QByteArray("one\n\f\fthree\n\f") << QStringList {"one\n", "", "three\n"};
     }
     void rtf()
     {
-        QFETCH(QStringList, pages);
+        QFETCH(QByteArray, output);
         QFETCH(QStringList, shown);
-        const QByteArray document = TextDocuments::rtf(pages);
+        const QByteArray document = TextDocuments::rtf(TextDocuments::pagesOf(output));
         QVERIFY(document.startsWith("{\\rtf1\\ansi"));
         QVERIFY2(std::all_of(document.begin(), document.end(), [](char c) { return c > 0; }),
             "RTF is 7-bit text");
@@ -128,33 +95,35 @@ private slots:
 
     void spreadsheetMl_data()
     {
-        QTest::addColumn<QStringList>("pages");
+        QTest::addColumn<QByteArray>("output"); // pdftotext's
         QTest::addColumn<Sheets>("sheets");
         QTest::addColumn<QStringList>("numbers");
         QTest::newRow("columns and numbers")
-            << QStringList {"Item   Qty  Price\n  Tea    2    1,234.50\n"}
+            << QByteArray("Item   Qty  Price\n  Tea    2    1,234.50\n\f")
             << Sheets {{{"Item", "Qty", "Price"}, {"Tea", "2", "1234.50"}}}
             << QStringList {"2", "1234.50"};
         QTest::newRow("numbers that would change stay text")
-            << QStringList {"007  0.5  -3  +4  1234567890123456  1,23  3%\n"}
+            << QByteArray("007  0.5  -3  +4  1234567890123456  1,23  3%\n\f")
             << Sheets {{{"007", "0.5", "-3", "4", "1234567890123456", "1,23", "3%"}}}
             << QStringList {"0.5", "-3", "4"};
         QTest::newRow("XML specials and a control character")
-            << QStringList {"A & B  <tag>\t\"q\" 'single'\x01]]>\n"}
+            << QByteArray("A & B  <tag>\t\"q\" 'single'\x01]]>\n\f")
             << Sheets {{{"A & B", "<tag>", "\"q\" 'single'\uFFFD]]>"}}} << QStringList {};
         QTest::newRow("empty lines kept as rows, one sheet per page")
-            << QStringList {"a\n\nб ü\n", "", "日本\n"}
-            << Sheets {{{"a"}, {}, {"б ü"}}, {}, {{"日本"}}} << QStringList {};
-        QTest::newRow("no pages still opens") << QStringList {} << Sheets {{}} << QStringList {};
+            << QByteArray("a\n\nб ü\n\f\f日本\n\f") << Sheets {{{"a"}, {}, {"б ü"}}, {}, {{"日本"}}}
+            << QStringList {};
+        QTest::newRow("no pages still opens") << QByteArray() << Sheets {{}} << QStringList {};
     }
     void spreadsheetMl()
     {
-        QFETCH(QStringList, pages);
+        QFETCH(QByteArray, output);
         QFETCH(Sheets, sheets);
         QFETCH(QStringList, numbers);
         QStringList names;
         QStringList typedNumbers;
-        QCOMPARE(readSheets(TextDocuments::spreadsheetMl(pages), &names, &typedNumbers), sheets);
+        QCOMPARE(readSheets(TextDocuments::spreadsheetMl(TextDocuments::pagesOf(output)), &names,
+                     &typedNumbers),
+            sheets);
         QCOMPARE(typedNumbers, numbers);
         for (qsizetype i = 0; i < names.size(); ++i)
             QCOMPARE(names.at(i), QString("Page %1").arg(i + 1));
