@@ -3,14 +3,30 @@
 #define FMTASK_MODERNCOLORS_H
 
 #include <QColor>
+#include <QLinearGradient>
 
 class QPalette;
+class QRect;
 
 // The colours the modern style paints with, all derived from one palette so that the style
-// follows the user's desktop colours. The hover, checked and pressed triples hold equal colours
-// today; they stay three members each so a gradient can be given distinct stops later.
+// follows the user's desktop colours, and the gradients it fills with.
 struct ModernColors
 {
+    // The gradients of the style; an element picks one by its state.
+    enum class Fill {
+        Plain, // tabs and tool-box tabs at rest
+        Hover, // under the mouse
+        Checked, // checked tool buttons
+        Pressed, // pressed, or checked under the mouse
+        MenuBarOpen, // a menu-bar item whose menu is open
+        SelectedTab, // a selected main-window tab, fading into the pane's colour
+        Title, // dock titles and the menu's icon column
+        ToolBar, // docked and floating tool bars
+        Window, // main-window background
+        ToolBox, // tool-box background
+        ToolBoxPage // tool-box pages
+    };
+
     QColor backgroundStart; // main-window and tool-box background, left end
     QColor backgroundEnd; // same gradients, right end
     QColor menuBorder; // pop-up menu frame, open menu-bar item frame
@@ -25,6 +41,7 @@ struct ModernColors
     QColor separatorDark; // tool-bar and menu separators, dark line
     QColor separatorLight; // tool-bar separator, light line
     QColor hoverBorder; // frame of hovered, pressed or checked items
+    // Driver contract: each triple holds three equal colours, kept apart for distinct stops later.
     QColor hoverTop;
     QColor hoverMiddle;
     QColor hoverBottom;
@@ -39,6 +56,11 @@ struct ModernColors
 
     // Derives every colour from the current colour group of the palette.
     static ModernColors fromPalette(const QPalette &palette);
+
+    // The fill over rect, from its top to its bottom edge for Qt::Vertical and from its left to
+    // its right edge for Qt::Horizontal; a selected tab ends in the pane's colour.
+    QLinearGradient gradient(Fill fill, const QRect &rect, Qt::Orientation direction,
+        const QColor &pane = QColor()) const;
 };
 
 // Blends two colours channel by channel with weight t on a; the result is always opaque.

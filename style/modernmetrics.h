@@ -19,6 +19,11 @@ static constexpr int MenuTextIndent = 32; // also where separator lines start
 static constexpr int MenuTextRightMargin = 16; // room for the sub-menu arrow
 static constexpr int MenuCheckLeft = 2; // check area spans 2..21 from the item's left edge
 static constexpr int MenuCheckRight = 21;
+static constexpr int MenuCheckTop = 1; // and bottom - MenuCheckBottom
+static constexpr int MenuCheckBottom = 2;
+static constexpr int MenuSelectionLeft = 1; // the selection frame's insets from the item's sides
+static constexpr int MenuSelectionRight = 2;
+static constexpr int MenuTextVMargin = 1;
 static constexpr int MenuSubMenuArrowWidth = 12; // arrow box, from the item's right edge
 static constexpr int MenuSubMenuArrowMargin = 4;
 
@@ -39,9 +44,11 @@ static constexpr int ToolBarEndGap = 2; // the bar ends this far after its last 
 static constexpr int ToolBarCornerInset = 2; // the clip that rounds the bar's corners
 static constexpr int ToolBarHandleDotInset = 3; // dark dot from the handle's edge; light one +1
 static constexpr int ToolBarHandleStep = 5; // one pair of dots every so many pixels
+static constexpr int ToolBarHandleDotSize = 2;
 static constexpr int ToolBarSeparatorInset = 2;
 static constexpr int MenuButtonIndicator = 12;
 static constexpr int ToolButtonArrowInset = 2; // drop-down arrow inside its indicator box
+static constexpr int DropDownBorderShare = 1; // the box reaches over the button's right border
 static constexpr int ToolButtonArrowOffset = 4; // menu arrow of a tool button from its corner
 static constexpr int ToolButtonArrowShrink = 5;
 
@@ -49,6 +56,7 @@ static constexpr int ToolButtonArrowShrink = 5;
 static constexpr int TabBarBaseOverlap = 0;
 static constexpr int TabBarTabShiftVertical = 2;
 static constexpr int SelectedTabOverlap = 2; // a selected tab reaches over its left neighbour
+static constexpr int SelectedTabPaneOverlap = 1; // ... and into the pane
 
 // Dock widgets
 static constexpr int DockWidgetSeparatorExtent = 4;

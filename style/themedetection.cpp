@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Asks the system theme library, where there is one, which desktop theme is in use.
 #include "style/themedetection.h"
 
 #include <QLibrary>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The modern style: which elements it paints itself, how, and its metrics and widget polish.
 #include "style/windowsmodernstyle.h"
 
 #include "style/modernmetrics.h"
@@ -21,7 +22,10 @@
 #include <QToolBar>
 #include <QToolBox>
 
+#include <utility>
+
 using namespace ModernMetrics;
+using Fill = ModernColors::Fill;
 
 namespace {
 
@@ -54,22 +58,10 @@ QStyleOption plainCopy(const QStyleOption &option)
     return copy;
 }
 
-QLinearGradient verticalGradient(const QRect &rect)
+// The direction of a gradient that runs across a bar of the given orientation.
+Qt::Orientation across(Qt::Orientation bar)
 {
-    return QLinearGradient(rect.left(), rect.top(), rect.left(), rect.bottom());
-}
-
-QLinearGradient horizontalGradient(const QRect &rect)
-{
-    return QLinearGradient(rect.left(), rect.top(), rect.right(), rect.top());
-}
-
-void setTriple(
-    QLinearGradient &gradient, const QColor &top, const QColor &middle, const QColor &bottom)
-{
-    gradient.setColorAt(0, top);
-    gradient.setColorAt(0.5, middle);
-    gradient.setColorAt(1, bottom);
+    return bar == Qt::Horizontal ? Qt::Vertical : Qt::Horizontal;
 }
 
 const QToolBar *parentToolBar(const QWidget *widget)
@@ -77,11 +69,67 @@ const QToolBar *parentToolBar(const QWidget *widget)
     return widget ? qobject_cast<const QToolBar *>(widget->parentWidget()) : nullptr;
 }
 
-bool isHotOrSunken(QStyle::State state)
+bool isHot(QStyle::State state)
 {
-    return (state & QStyle::State_MouseOver && state & QStyle::State_Enabled)
-        || state & QStyle::State_Sunken;
+    return state & QStyle::State_MouseOver && state & QStyle::State_Enabled;
 }
+
+bool isMainWindow(const QWidget *widget)
+{
+    return qobject_cast<const QMainWindow *>(widget);
+}
+
+bool isToolBox(const QWidget *widget)
+{
+    return qobject_cast<const QToolBox *>(widget);
+}
+
+// The tab buttons of a tool box.
+bool isToolBoxButton(const QWidget *widget)
+{
+    return qobject_cast<const QAbstractButton *>(widget)
+        && qobject_cast<const QToolBox *>(widget->parentWidget());
+}
+
+// The draw function a dispatch table gives an element, or none.
+template<class Element, class Function, std::size_t N>
+Function lookUp(const std::pair<Element, Function> (&table)[N], Element element)
+{
+    for (const auto &[key, function] : table) {
+        if (key == element)
+            return function;
+    }
+    return nullptr;
+}
+
+// Metrics the style sets whatever the widget.
+// clang-format off
+constexpr std::pair<QStyle::PixelMetric, int> fixedMetrics[] = {
+    {QStyle::PM_MenuButtonIndicator,            MenuButtonIndicator},
+    {QStyle::PM_DockWidgetSeparatorExtent,      DockWidgetSeparatorExtent},
+    {QStyle::PM_DockWidgetTitleBarButtonMargin, DockWidgetTitleBarButtonMargin},
+    {QStyle::PM_MenuHMargin,                    MenuHMargin},
+    {QStyle::PM_MenuBarPanelWidth,              MenuBarPanelWidth},
+    {QStyle::PM_ToolBarItemSpacing,             ToolBarItemSpacing},
+    {QStyle::PM_ToolBarItemMargin,              ToolBarItemMargin},
+    {QStyle::PM_MenuVMargin,                    MenuVMargin},
+    {QStyle::PM_MenuPanelWidth,                 MenuPanelWidth},
+    {QStyle::PM_MenuBarVMargin,                 MenuBarVMargin},
+    {QStyle::PM_MenuBarHMargin,                 MenuBarHMargin},
+    {QStyle::PM_ToolBarFrameWidth,              ToolBarFrameWidth},
+    {QStyle::PM_ToolBarIconSize,                ToolBarIconSize},
+    {QStyle::PM_DockWidgetTitleMargin,          DockWidgetTitleMargin},
+};
+
+// The attributes polish(QWidget *) sets and unpolish(QWidget *) clears, by kind of widget.
+const std::pair<bool (*)(const QWidget *), Qt::WidgetAttribute> widgetAttributes[] = {
+    {isMainWindow,                          Qt::WA_StyledBackground},
+    {isToolBox,                             Qt::WA_StyledBackground},
+    {isToolBoxButton,                       Qt::WA_Hover},
+    {WindowsModernStyle::isToolBoxPage,     Qt::WA_StyledBackground},
+    {WindowsModernStyle::isMainWindowTabBar, Qt::WA_Hover},
+};
+// clang-format on
 
 } // namespace
 
@@ -89,6 +137,7 @@ WindowsModernStyle::WindowsModernStyle()
     : QProxyStyle(createBaseStyle())
     , m_colorScheme(ThemeDetection::PaletteScheme)
 {
+    // Driver contract: colours stay invalid until the first palette polish, run on installing.
     ThemeDetection::loadThemeLibrary();
 }
 
@@ -129,6 +178,7 @@ void WindowsModernStyle::polish(QPalette &palette)
     // The desktop theme is asked on every palette change, yet the gradients always follow the
     // palette whatever theme it reports.
     m_colorScheme = ThemeDetection::currentColorScheme();
+    // Driver contract: the palette scheme always wins, so every theme paints from the palette.
     m_colorScheme = ThemeDetection::PaletteScheme;
     // Qt polishes the palette beneath the application's own roles, so those stay on top. At this
     // point QApplication::palette() is still the previous one.
@@ -158,153 +208,92 @@ bool WindowsModernStyle::eventFilter(QObject *watched, QEvent *event)
 
 void WindowsModernStyle::polish(QWidget *widget)
 {
-    if (qobject_cast<QMainWindow *>(widget))
-        widget->setAttribute(Qt::WA_StyledBackground);
-    if (auto *toolBox = qobject_cast<QToolBox *>(widget)) {
-        toolBox->setAttribute(Qt::WA_StyledBackground);
-        if (QLayout *layout = toolBox->layout())
-            layout->setContentsMargins(ToolBoxMargin, ToolBoxMargin, ToolBoxMargin, ToolBoxMargin);
+    for (const auto &[applies, attribute] : widgetAttributes) {
+        if (applies(widget))
+            widget->setAttribute(attribute);
     }
-    if (qobject_cast<QAbstractButton *>(widget)
-        && qobject_cast<QToolBox *>(widget->parentWidget())) {
-        widget->setAttribute(Qt::WA_Hover);
+    if (auto *toolBox = qobject_cast<QToolBox *>(widget); toolBox && toolBox->layout())
+        toolBox->layout()->setContentsMargins(
+            ToolBoxMargin, ToolBoxMargin, ToolBoxMargin, ToolBoxMargin);
+    if (isToolBoxButton(widget)) {
+        // Tool-box buttons are spaced as push buttons by layoutSpacingImplementation().
         QSizePolicy policy = widget->sizePolicy();
         policy.setControlType(QSizePolicy::PushButton);
         widget->setSizePolicy(policy);
     }
-    if (isToolBoxPage(widget))
-        widget->setAttribute(Qt::WA_StyledBackground);
-    if (isMainWindowTabBar(widget))
-        widget->setAttribute(Qt::WA_Hover);
     QProxyStyle::polish(widget);
 }
 
 void WindowsModernStyle::unpolish(QWidget *widget)
 {
-    // Size policy and tool-box margin are left as polished; only the attributes are undone.
-    if (qobject_cast<QMainWindow *>(widget))
-        widget->setAttribute(Qt::WA_StyledBackground, false);
-    if (qobject_cast<QToolBox *>(widget))
-        widget->setAttribute(Qt::WA_StyledBackground, false);
-    if (qobject_cast<QAbstractButton *>(widget) && qobject_cast<QToolBox *>(widget->parentWidget()))
-        widget->setAttribute(Qt::WA_Hover, false);
-    // Main windows are looked at a second time; repeating the reset does no harm.
-    if (qobject_cast<QMainWindow *>(widget))
-        widget->setAttribute(Qt::WA_StyledBackground, false);
-    if (isToolBoxPage(widget))
-        widget->setAttribute(Qt::WA_StyledBackground, false);
-    if (isMainWindowTabBar(widget))
-        widget->setAttribute(Qt::WA_Hover, false);
+    // Driver contract: only attributes are undone; size policy and tool-box margin stay polished.
+    for (const auto &[applies, attribute] : widgetAttributes) {
+        if (applies(widget))
+            widget->setAttribute(attribute, false);
+    }
     QProxyStyle::unpolish(widget);
 }
 
 void WindowsModernStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
     QPainter *painter, const QWidget *widget) const
 {
-    DrawFunction draw = nullptr;
-    if (element == PE_ModernBackground) {
-        draw = &WindowsModernStyle::drawBackgroundPanel;
-    } else {
-        switch (element) {
-        case PE_FrameMenu:
-            draw = &WindowsModernStyle::drawMenuFrame;
-            break;
-        case PE_FrameTabWidget:
-            draw = &WindowsModernStyle::drawTabWidgetFrame;
-            break;
-        case PE_FrameTabBarBase:
-            draw = &WindowsModernStyle::drawTabBarBase;
-            break;
-        case PE_PanelButtonTool:
-            draw = &WindowsModernStyle::drawDockTitleButtonPanel;
-            break;
-        case PE_PanelMenuBar:
-        case PE_IndicatorDockWidgetResizeHandle:
-            draw = &WindowsModernStyle::drawNothing;
-            break;
-        case PE_IndicatorButtonDropDown:
-            draw = &WindowsModernStyle::drawDropDownIndicator;
-            break;
-        case PE_IndicatorToolBarHandle:
-            draw = &WindowsModernStyle::drawToolBarHandle;
-            break;
-        case PE_IndicatorToolBarSeparator:
-            draw = &WindowsModernStyle::drawToolBarSeparator;
-            break;
-        case PE_Widget:
-            draw = &WindowsModernStyle::drawWidgetBackground;
-            break;
-        default:
-            break;
-        }
-    }
-    if (draw && drawGuarded(draw, option, painter, widget))
-        return;
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
-}
-
-bool WindowsModernStyle::drawGuarded(
-    DrawFunction draw, const QStyleOption *option, QPainter *painter, const QWidget *widget) const
-{
-    if (!option || !painter)
-        return false;
-    painter->save();
-    const bool drawn = (this->*draw)(option, painter, widget);
-    painter->restore();
-    return drawn;
+    // clang-format off
+    static constexpr std::pair<PrimitiveElement, DrawFunction> handlers[] = {
+        {PE_ModernBackground,                &WindowsModernStyle::drawBackgroundPanel},
+        {PE_FrameMenu,                       &WindowsModernStyle::drawMenuFrame},
+        {PE_FrameTabWidget,                  &WindowsModernStyle::drawTabWidgetFrame},
+        {PE_FrameTabBarBase,                 &WindowsModernStyle::drawTabBarBase},
+        {PE_PanelButtonTool,                 &WindowsModernStyle::drawDockTitleButtonPanel},
+        {PE_PanelMenuBar,                    &WindowsModernStyle::drawNothing},
+        {PE_IndicatorDockWidgetResizeHandle, &WindowsModernStyle::drawNothing},
+        {PE_IndicatorButtonDropDown,         &WindowsModernStyle::drawDropDownIndicator},
+        {PE_IndicatorToolBarHandle,          &WindowsModernStyle::drawToolBarHandle},
+        {PE_IndicatorToolBarSeparator,       &WindowsModernStyle::drawToolBarSeparator},
+        {PE_Widget,                          &WindowsModernStyle::drawWidgetBackground},
+    };
+    // clang-format on
+    if (!drawGuarded(lookUp(handlers, element), option, painter, widget))
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
 void WindowsModernStyle::drawControl(ControlElement element, const QStyleOption *option,
     QPainter *painter, const QWidget *widget) const
 {
-    DrawFunction draw = nullptr;
-    switch (element) {
-    case CE_TabBarTabShape:
-        draw = &WindowsModernStyle::drawTabShape;
-        break;
-    case CE_MenuItem:
-        draw = &WindowsModernStyle::drawMenuItem;
-        break;
-    case CE_MenuEmptyArea:
-        draw = &WindowsModernStyle::drawMenuEmptyArea;
-        break;
-    case CE_MenuBarItem:
-        draw = &WindowsModernStyle::drawMenuBarItem;
-        break;
-    case CE_MenuBarEmptyArea:
-        draw = &WindowsModernStyle::drawNothing;
-        break;
-    case CE_Splitter:
-        draw = &WindowsModernStyle::drawSplitter;
-        break;
-    case CE_DockWidgetTitle:
-        draw = &WindowsModernStyle::drawDockWidgetTitle;
-        break;
-    case CE_ToolBar:
-        draw = &WindowsModernStyle::drawToolBar;
-        break;
-    case CE_ToolBoxTabShape:
-        draw = &WindowsModernStyle::drawToolBoxTabShape;
-        break;
-    default:
-        break;
-    }
-    if (draw && drawGuarded(draw, option, painter, widget))
-        return;
-    QProxyStyle::drawControl(element, option, painter, widget);
+    // clang-format off
+    static constexpr std::pair<ControlElement, DrawFunction> handlers[] = {
+        {CE_TabBarTabShape,   &WindowsModernStyle::drawTabShape},
+        {CE_MenuItem,         &WindowsModernStyle::drawMenuItem},
+        {CE_MenuEmptyArea,    &WindowsModernStyle::drawMenuEmptyArea},
+        {CE_MenuBarItem,      &WindowsModernStyle::drawMenuBarItem},
+        {CE_MenuBarEmptyArea, &WindowsModernStyle::drawNothing},
+        {CE_Splitter,         &WindowsModernStyle::drawSplitter},
+        {CE_DockWidgetTitle,  &WindowsModernStyle::drawDockWidgetTitle},
+        {CE_ToolBar,          &WindowsModernStyle::drawToolBar},
+        {CE_ToolBoxTabShape,  &WindowsModernStyle::drawToolBoxTabShape},
+    };
+    // clang-format on
+    if (!drawGuarded(lookUp(handlers, element), option, painter, widget))
+        QProxyStyle::drawControl(element, option, painter, widget);
 }
 
 void WindowsModernStyle::drawComplexControl(ComplexControl control,
     const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const
 {
-    if (control == CC_ToolButton && option && painter) {
-        painter->save();
-        const bool drawn = drawToolButton(option, painter, widget);
-        painter->restore();
-        if (drawn)
-            return;
-    }
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const DrawFunction draw
+        = control == CC_ToolButton ? &WindowsModernStyle::drawToolButton : nullptr;
+    if (!drawGuarded(draw, option, painter, widget))
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+bool WindowsModernStyle::drawGuarded(
+    DrawFunction draw, const QStyleOption *option, QPainter *painter, const QWidget *widget) const
+{
+    if (!draw || !option || !painter)
+        return false;
+    painter->save();
+    const bool drawn = (this->*draw)(option, painter, widget);
+    painter->restore();
+    return drawn;
 }
 
 QRect WindowsModernStyle::subElementRect(
@@ -313,12 +302,13 @@ QRect WindowsModernStyle::subElementRect(
     const QRect rect = QProxyStyle::subElementRect(element, option, widget);
     switch (element) {
     // Main-window tabs keep the plain common geometry whatever the base adds for tab bar and
-    // pane, and their pages fill the whole pane on purpose.
+    // pane.
     case SE_TabWidgetTabBar:
         if (isMainWindowTabWidget(widget))
             return QCommonStyle::subElementRect(SE_TabWidgetTabBar, option, widget);
         break;
     case SE_TabWidgetTabContents:
+        // Driver contract: a main window's pages fill the whole pane, frame included, by design.
         if (isMainWindowTabWidget(widget))
             return QCommonStyle::subElementRect(SE_TabWidgetTabPane, option, widget);
         break;
@@ -334,40 +324,20 @@ QRect WindowsModernStyle::subElementRect(
 int WindowsModernStyle::pixelMetric(
     PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
 {
+    for (const auto &[fixed, value] : fixedMetrics) {
+        if (fixed == metric)
+            return value;
+    }
     switch (metric) {
-    case PM_MenuButtonIndicator:
-        return MenuButtonIndicator;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         if (parentToolBar(widget))
             return 0;
         break;
-    case PM_DockWidgetSeparatorExtent:
-        return DockWidgetSeparatorExtent;
-    case PM_DockWidgetTitleBarButtonMargin:
-        return DockWidgetTitleBarButtonMargin;
     case PM_TabBarBaseOverlap:
         if (isMainWindowTabWidget(widget) || isMainWindowTabBar(widget))
             return TabBarBaseOverlap;
         break;
-    case PM_MenuHMargin:
-        return MenuHMargin;
-    case PM_MenuBarPanelWidth:
-        return MenuBarPanelWidth;
-    case PM_ToolBarItemSpacing:
-        return ToolBarItemSpacing;
-    case PM_ToolBarItemMargin:
-        return ToolBarItemMargin;
-    case PM_MenuVMargin:
-        return MenuVMargin;
-    case PM_MenuPanelWidth:
-        return MenuPanelWidth;
-    case PM_MenuBarVMargin:
-        return MenuBarVMargin;
-    case PM_MenuBarHMargin:
-        return MenuBarHMargin;
-    case PM_ToolBarFrameWidth:
-        return ToolBarFrameWidth;
     case PM_TabBarTabShiftVertical:
         if (isMainWindowTabBar(widget)) {
             const bool south
@@ -375,10 +345,6 @@ int WindowsModernStyle::pixelMetric(
             return south ? -TabBarTabShiftVertical : TabBarTabShiftVertical;
         }
         break;
-    case PM_ToolBarIconSize:
-        return ToolBarIconSize;
-    case PM_DockWidgetTitleMargin:
-        return DockWidgetTitleMargin;
     case PM_LayoutVerticalSpacing:
         // A tool box spaces its buttons and pages by control type, through layoutSpacing().
         if (qobject_cast<const QToolBox *>(widget))
@@ -435,18 +401,6 @@ int WindowsModernStyle::layoutSpacingImplementation(QSizePolicy::ControlType con
     return ToolBoxOtherSpacing;
 }
 
-QLinearGradient WindowsModernStyle::toolBarGradient(
-    const QRect &rect, Qt::Orientation orientation) const
-{
-    QLinearGradient gradient
-        = orientation == Qt::Horizontal ? verticalGradient(rect) : horizontalGradient(rect);
-    gradient.setColorAt(0, m_colors.barTop);
-    gradient.setColorAt(BarMiddleStart, m_colors.barMiddle);
-    gradient.setColorAt(BarMiddleEnd, m_colors.barMiddle);
-    gradient.setColorAt(1, m_colors.barBottom);
-    return gradient;
-}
-
 int WindowsModernStyle::mnemonicFlags(const QStyleOption *option, const QWidget *widget) const
 {
     return proxy()->styleHint(SH_UnderlineShortcut, option, widget) ? Qt::TextShowMnemonic
@@ -456,10 +410,7 @@ int WindowsModernStyle::mnemonicFlags(const QStyleOption *option, const QWidget 
 bool WindowsModernStyle::drawBackgroundPanel(
     const QStyleOption *option, QPainter *painter, const QWidget *) const
 {
-    QLinearGradient gradient = horizontalGradient(option->rect);
-    gradient.setColorAt(0, m_colors.backgroundStart);
-    gradient.setColorAt(BackgroundEndStop, m_colors.backgroundEnd);
-    painter->fillRect(option->rect, gradient);
+    painter->fillRect(option->rect, m_colors.gradient(Fill::Window, option->rect, Qt::Horizontal));
     return true;
 }
 
@@ -483,7 +434,8 @@ bool WindowsModernStyle::drawMenuFrame(
     // A floating tool bar is framed like a menu and filled like a docked bar.
     if (const auto *toolBar = qobject_cast<const QToolBar *>(widget)) {
         const QRect inside = option->rect.adjusted(1, 1, -1, -1);
-        painter->fillRect(inside, toolBarGradient(inside, toolBar->orientation()));
+        painter->fillRect(
+            inside, m_colors.gradient(Fill::ToolBar, inside, across(toolBar->orientation())));
     }
     return true;
 }
@@ -526,28 +478,22 @@ bool WindowsModernStyle::drawNothing(const QStyleOption *, QPainter *, const QWi
 bool WindowsModernStyle::drawDropDownIndicator(
     const QStyleOption *option, QPainter *painter, const QWidget *widget) const
 {
-    // Outside tool bars the indicator is left out entirely, without asking the base style.
+    // Driver contract: outside tool bars the indicator is left out, and the base is not asked.
     const QToolBar *toolBar = parentToolBar(widget);
     if (!toolBar)
         return true;
 
     const QRect &r = option->rect;
-    // One pixel to the left, so the indicator shares the button's right border.
-    const QRect box = cornerRect(r.left() - 1, r.top(), r.right() - 1, r.bottom() - 1);
+    // Widened to the left so that the indicator shares the button's right border.
+    const QRect box = outlineRect(r.adjusted(-DropDownBorderShare, 0, 0, 0));
     const bool sunken = option->state & State_Sunken;
-    if (isHotOrSunken(option->state)) {
+    if (isHot(option->state) || sunken) {
         painter->setPen(m_colors.hoverBorder);
-        if (toolBar->orientation() == Qt::Horizontal) {
-            QLinearGradient gradient = verticalGradient(box);
-            if (sunken)
-                setTriple(
-                    gradient, m_colors.pressedTop, m_colors.pressedMiddle, m_colors.pressedBottom);
-            else
-                setTriple(gradient, m_colors.hoverTop, m_colors.hoverMiddle, m_colors.hoverBottom);
-            painter->setBrush(gradient);
-        } else {
+        if (toolBar->orientation() == Qt::Horizontal)
+            painter->setBrush(
+                m_colors.gradient(sunken ? Fill::Pressed : Fill::Hover, box, Qt::Vertical));
+        else
             painter->setBrush(sunken ? m_colors.pressedBottom : m_colors.hoverBottom);
-        }
         painter->drawRect(box);
     }
     QStyleOption arrow = plainCopy(*option);
@@ -566,18 +512,18 @@ bool WindowsModernStyle::drawToolBarHandle(
     const int length = horizontal ? r.height() : r.width();
     const int first = length / ToolBarHandleStep;
     const int last = (ToolBarHandleStep - 1) * first;
+    const int dot = ToolBarHandleDotSize;
     const int dark = ToolBarHandleDotInset;
     const int light = ToolBarHandleDotInset + 1;
     for (int i = first; i <= last; i += ToolBarHandleStep) {
-        if (horizontal) {
-            const int y = r.top() + i + 1;
-            painter->fillRect(r.left() + light, y, 2, 2, m_colors.gripLight);
-            painter->fillRect(r.left() + dark, y - 1, 2, 2, m_colors.gripShadow);
-        } else {
-            const int x = r.left() + i + 1;
-            painter->fillRect(x, r.top() + light, 2, 2, m_colors.gripLight);
-            painter->fillRect(x - 1, r.top() + dark, 2, 2, m_colors.gripShadow);
-        }
+        // Along the handle the dark square sits one pixel before the light one.
+        const int along = (horizontal ? r.top() : r.left()) + i + 1;
+        const int side = horizontal ? r.left() : r.top();
+        const auto square = [&](int a, int s) {
+            return horizontal ? QRect(s, a, dot, dot) : QRect(a, s, dot, dot);
+        };
+        painter->fillRect(square(along, side + light), m_colors.gripLight);
+        painter->fillRect(square(along - 1, side + dark), m_colors.gripShadow);
     }
     return true;
 }
@@ -585,22 +531,20 @@ bool WindowsModernStyle::drawToolBarHandle(
 bool WindowsModernStyle::drawToolBarSeparator(
     const QStyleOption *option, QPainter *painter, const QWidget *) const
 {
+    // A dark line and a light one beside it, across the bar's length.
     const QRect &r = option->rect;
-    const int inset = ToolBarSeparatorInset;
-    if (option->state & State_Horizontal) {
-        const int x = (r.left() + r.right() - 1) / 2;
-        painter->setPen(m_colors.separatorDark);
-        painter->drawLine(x, r.top() + inset, x, r.bottom() - inset);
-        const int x2 = (r.left() + r.right() + 1) / 2;
-        painter->setPen(m_colors.separatorLight);
-        painter->drawLine(x2, r.top() + inset, x2, r.bottom() - inset);
-    } else {
-        const int y = (r.top() + r.bottom() - 1) / 2;
-        painter->setPen(m_colors.separatorDark);
-        painter->drawLine(r.left() + inset, y, r.right() - inset, y);
-        const int y2 = (r.top() + r.bottom() + 1) / 2;
-        painter->setPen(m_colors.separatorLight);
-        painter->drawLine(r.left() + inset, y2, r.right() - inset, y2);
+    const bool horizontal = option->state & State_Horizontal;
+    const int low = horizontal ? r.left() + r.right() : r.top() + r.bottom();
+    const int from = (horizontal ? r.top() : r.left()) + ToolBarSeparatorInset;
+    const int to = (horizontal ? r.bottom() : r.right()) - ToolBarSeparatorInset;
+    const std::pair<int, QColor> lines[]
+        = {{(low - 1) / 2, m_colors.separatorDark}, {(low + 1) / 2, m_colors.separatorLight}};
+    for (const auto &[at, color] : lines) {
+        painter->setPen(color);
+        if (horizontal)
+            painter->drawLine(at, from, at, to);
+        else
+            painter->drawLine(from, at, to, at);
     }
     return true;
 }
@@ -618,24 +562,15 @@ bool WindowsModernStyle::drawWidgetBackground(
             painter->setPen(option->palette.color(QPalette::Light));
             painter->drawLine(area.right(), area.bottom() + 1, area.left(), area.bottom() + 1);
         }
-        QLinearGradient gradient = horizontalGradient(area);
-        gradient.setColorAt(0, m_colors.backgroundStart);
-        gradient.setColorAt(BackgroundEndStop, m_colors.backgroundEnd);
-        painter->fillRect(area, gradient);
+        painter->fillRect(area, m_colors.gradient(Fill::Window, area, Qt::Horizontal));
         return true;
     }
     if (qobject_cast<const QToolBox *>(widget)) {
-        QLinearGradient gradient = horizontalGradient(r);
-        gradient.setColorAt(ToolBoxStartStop, m_colors.backgroundStart);
-        gradient.setColorAt(1, m_colors.backgroundEnd);
-        painter->fillRect(r, gradient);
+        painter->fillRect(r, m_colors.gradient(Fill::ToolBox, r, Qt::Horizontal));
         return true;
     }
     if (isToolBoxPage(widget)) {
-        QLinearGradient gradient = horizontalGradient(r);
-        gradient.setColorAt(ToolBoxStartStop, m_colors.barMiddle);
-        gradient.setColorAt(1, m_colors.barTop);
-        painter->fillRect(r, gradient);
+        painter->fillRect(r, m_colors.gradient(Fill::ToolBoxPage, r, Qt::Horizontal));
         return true;
     }
     return false;
@@ -648,78 +583,70 @@ bool WindowsModernStyle::drawTabShape(
     if (!tab || !isMainWindowTabBar(widget))
         return false;
 
-    const bool first = tab->position == QStyleOptionTab::Beginning
-        || tab->position == QStyleOptionTab::OnlyOneTab;
-    const bool last
-        = tab->position == QStyleOptionTab::End || tab->position == QStyleOptionTab::OnlyOneTab;
     const bool south = tab->shape == QTabBar::RoundedSouth;
     const bool selected = option->state & State_Selected;
+    const QRect rect = tabShapeRect(*tab);
+    // A tab at rest keeps out of the pane and of its right neighbour's border.
+    if (!selected)
+        painter->setClipRect(south ? rect.adjusted(0, 1, 1, 1) : rect.adjusted(0, 0, 1, 0));
 
-    QRect rect = option->rect;
-    if (selected) {
+    const Fill fill
+        = selected ? Fill::SelectedTab : (isHot(option->state) ? Fill::Hover : Fill::Plain);
+    QLinearGradient gradient
+        = m_colors.gradient(fill, rect, Qt::Vertical, option->palette.color(QPalette::Window));
+    if (south) { // from the tab's outer edge towards the pane
+        gradient.setStart(rect.bottomLeft());
+        gradient.setFinalStop(rect.topLeft());
+    }
+    painter->setPen(selected ? m_colors.borderDark : m_colors.borderLight);
+    painter->setBrush(gradient);
+    painter->drawRect(outlineRect(rect));
+    return true;
+}
+
+QRect WindowsModernStyle::tabShapeRect(const QStyleOptionTab &tab)
+{
+    const bool first
+        = tab.position == QStyleOptionTab::Beginning || tab.position == QStyleOptionTab::OnlyOneTab;
+    const bool last
+        = tab.position == QStyleOptionTab::End || tab.position == QStyleOptionTab::OnlyOneTab;
+    const bool south = tab.shape == QTabBar::RoundedSouth;
+    QRect rect = tab.rect;
+    if (tab.state & State_Selected) {
         // The selected tab reaches over its left neighbour and into the pane.
         if (!first)
             rect.setLeft(rect.left() - SelectedTabOverlap);
         rect.setRight(rect.right() + (last ? -1 : 1));
-        if (south) {
-            rect.setTop(rect.top() - 1);
-            rect.setBottom(rect.bottom() - 1);
-        } else {
-            rect.setBottom(rect.bottom() + 1);
-        }
+        if (south)
+            rect.translate(0, -SelectedTabPaneOverlap);
+        else
+            rect.setBottom(rect.bottom() + SelectedTabPaneOverlap);
     } else {
         if (last)
             rect.setRight(rect.right() - 1);
-        if (south) {
-            rect.setTop(rect.top() - 1);
-            rect.setBottom(rect.bottom() - 2);
-            painter->setClipRect(rect.adjusted(0, 1, 1, 1));
-        } else {
+        if (south)
+            rect.adjust(0, -1, 0, -2);
+        else
             rect.setTop(rect.top() + 1);
-            painter->setClipRect(rect.adjusted(0, 0, 1, 0));
-        }
     }
-
-    // The gradient runs from the tab's outer edge towards the pane.
-    QLinearGradient gradient = south
-        ? QLinearGradient(rect.left(), rect.bottom(), rect.left(), rect.top())
-        : verticalGradient(rect);
-    if (selected) {
-        gradient.setColorAt(0, m_colors.hoverTop);
-        gradient.setColorAt(1, option->palette.color(QPalette::Window));
-        painter->setPen(m_colors.borderDark);
-    } else if (option->state & State_MouseOver && option->state & State_Enabled) {
-        gradient.setColorAt(0, m_colors.hoverTop);
-        gradient.setColorAt(1, m_colors.hoverBottom);
-        painter->setPen(m_colors.borderLight);
-    } else {
-        gradient.setColorAt(0, m_colors.barMiddle);
-        gradient.setColorAt(1, m_colors.barBottom);
-        painter->setPen(m_colors.borderLight);
-    }
-    painter->setBrush(gradient);
-    painter->drawRect(outlineRect(rect));
-    return true;
+    return rect;
 }
 
 bool WindowsModernStyle::drawMenuItem(
     const QStyleOption *option, QPainter *painter, const QWidget *widget) const
 {
     const QRect &r = option->rect;
-    const bool enabled = option->state & State_Enabled;
-    const bool selected = option->state & State_Selected;
-
-    if (selected && enabled) {
+    if (option->state & State_Selected && option->state & State_Enabled) {
         painter->setPen(m_colors.hoverBorder);
         painter->setBrush(m_colors.hoverTop);
-        painter->drawRect(cornerRect(r.left() + 1, r.top(), r.right() - 3, r.bottom() - 1));
+        painter->drawRect(outlineRect(cornerRect(
+            r.left() + MenuSelectionLeft, r.top(), r.right() - MenuSelectionRight, r.bottom())));
     } else {
-        // The column gradient is anchored at the painter's origin, not at the item.
-        QLinearGradient column(0, 0, MenuIconColumnWidth, 0);
-        column.setColorAt(0, m_colors.barTop);
-        column.setColorAt(1, m_colors.barBottom);
+        // Driver contract: the column's gradient starts at the painter's origin, not at the item.
+        const QRect column(0, 0, MenuIconColumnWidth + 1, 1);
         painter->fillRect(
-            cornerRect(r.left(), r.top(), r.left() + MenuIconColumnWidth - 1, r.bottom()), column);
+            cornerRect(r.left(), r.top(), r.left() + MenuIconColumnWidth - 1, r.bottom()),
+            m_colors.gradient(Fill::Title, column, Qt::Horizontal));
         painter->fillRect(
             cornerRect(r.left() + MenuIconColumnWidth, r.top(), r.right(), r.bottom()),
             m_colors.menuBackground);
@@ -728,60 +655,14 @@ bool WindowsModernStyle::drawMenuItem(
     const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
     if (!item)
         return true;
-
     if (item->menuItemType == QStyleOptionMenuItem::Separator) {
         const int y = (r.top() + r.bottom()) / 2;
         painter->setPen(m_colors.separatorDark);
         painter->drawLine(r.left() + MenuTextIndent, y, r.right(), y);
         return true;
     }
-
-    const bool checked = item->checkType != QStyleOptionMenuItem::NotCheckable && item->checked;
-    const QRect check = cornerRect(
-        r.left() + MenuCheckLeft, r.top() + 1, r.left() + MenuCheckRight, r.bottom() - 2);
-    if (checked && enabled) {
-        painter->setPen(m_colors.hoverBorder);
-        painter->setBrush(selected ? m_colors.pressedTop : m_colors.checkedTop);
-        painter->drawRect(outlineRect(check));
-    }
-
-    if (!item->icon.isNull()) {
-        const int size = proxy()->pixelMetric(PM_SmallIconSize, option, widget);
-        const QIcon::Mode mode
-            = !enabled ? QIcon::Disabled : (selected ? QIcon::Active : QIcon::Normal);
-        const QPixmap pixmap
-            = item->icon.pixmap(QSize(size, size), mode, checked ? QIcon::On : QIcon::Off);
-        QRect pixmapRect(QPoint(0, 0), pixmap.deviceIndependentSize().toSize());
-        pixmapRect.moveCenter(check.center());
-        painter->drawPixmap(pixmapRect.topLeft(), pixmap);
-    } else if (checked) {
-        QStyleOption mark;
-        if (widget)
-            mark.initFrom(widget);
-        else
-            mark = plainCopy(*option);
-        mark.rect = check;
-        if (!enabled) {
-            const QBrush disabledText = mark.palette.brush(QPalette::Disabled, QPalette::Text);
-            mark.palette.setBrush(QPalette::Text, disabledText);
-        }
-        proxy()->drawPrimitive(PE_IndicatorMenuCheckMark, &mark, painter, widget);
-    }
-
-    const QRect textRect = cornerRect(
-        r.left() + MenuTextIndent, r.top() + 1, r.right() - MenuTextRightMargin, r.bottom() - 1);
-    const int flags
-        = Qt::TextSingleLine | Qt::TextDontClip | Qt::AlignVCenter | mnemonicFlags(option, widget);
-    QString text = item->text;
-    const int tab = text.indexOf(QLatin1Char('\t'));
-    if (tab >= 0) {
-        proxy()->drawItemText(painter, textRect, flags | Qt::AlignRight, option->palette, enabled,
-            text.mid(tab + 1), QPalette::Text);
-        text.truncate(tab);
-    }
-    proxy()->drawItemText(
-        painter, textRect, flags | Qt::AlignLeft, option->palette, enabled, text, QPalette::Text);
-
+    drawMenuItemCheck(*item, painter, widget);
+    drawMenuItemText(*item, painter, widget);
     if (item->menuItemType == QStyleOptionMenuItem::SubMenu) {
         QStyleOption arrow;
         arrow.rect = cornerRect(r.right() - MenuSubMenuArrowWidth, r.top() + MenuSubMenuArrowMargin,
@@ -792,6 +673,66 @@ bool WindowsModernStyle::drawMenuItem(
         proxy()->drawPrimitive(PE_IndicatorArrowRight, &arrow, painter, widget);
     }
     return true;
+}
+
+void WindowsModernStyle::drawMenuItemCheck(
+    const QStyleOptionMenuItem &item, QPainter *painter, const QWidget *widget) const
+{
+    const QRect &r = item.rect;
+    const bool enabled = item.state & State_Enabled;
+    const bool selected = item.state & State_Selected;
+    const bool checked = item.checkType != QStyleOptionMenuItem::NotCheckable && item.checked;
+    const QRect check = cornerRect(r.left() + MenuCheckLeft, r.top() + MenuCheckTop,
+        r.left() + MenuCheckRight, r.bottom() - MenuCheckBottom);
+    if (checked && enabled) {
+        painter->setPen(m_colors.hoverBorder);
+        painter->setBrush(selected ? m_colors.pressedTop : m_colors.checkedTop);
+        painter->drawRect(outlineRect(check));
+    }
+
+    if (!item.icon.isNull()) {
+        const int size = proxy()->pixelMetric(PM_SmallIconSize, &item, widget);
+        const QIcon::Mode mode
+            = !enabled ? QIcon::Disabled : (selected ? QIcon::Active : QIcon::Normal);
+        const QPixmap pixmap
+            = item.icon.pixmap(QSize(size, size), mode, checked ? QIcon::On : QIcon::Off);
+        QRect pixmapRect(QPoint(0, 0), pixmap.deviceIndependentSize().toSize());
+        pixmapRect.moveCenter(check.center());
+        painter->drawPixmap(pixmapRect.topLeft(), pixmap);
+    } else if (checked) {
+        QStyleOption mark;
+        if (widget)
+            mark.initFrom(widget);
+        else
+            mark = plainCopy(item);
+        mark.rect = check;
+        if (!enabled) {
+            const QBrush disabledText = mark.palette.brush(QPalette::Disabled, QPalette::Text);
+            mark.palette.setBrush(QPalette::Text, disabledText);
+        }
+        proxy()->drawPrimitive(PE_IndicatorMenuCheckMark, &mark, painter, widget);
+    }
+}
+
+void WindowsModernStyle::drawMenuItemText(
+    const QStyleOptionMenuItem &item, QPainter *painter, const QWidget *widget) const
+{
+    const QRect &r = item.rect;
+    const bool enabled = item.state & State_Enabled;
+    const QRect textRect = cornerRect(r.left() + MenuTextIndent, r.top() + MenuTextVMargin,
+        r.right() - MenuTextRightMargin, r.bottom() - MenuTextVMargin);
+    const int flags
+        = Qt::TextSingleLine | Qt::TextDontClip | Qt::AlignVCenter | mnemonicFlags(&item, widget);
+    QString text = item.text;
+    // A shortcut after a tab goes to the right edge.
+    const int tab = text.indexOf(QLatin1Char('\t'));
+    if (tab >= 0) {
+        proxy()->drawItemText(painter, textRect, flags | Qt::AlignRight, item.palette, enabled,
+            text.mid(tab + 1), QPalette::Text);
+        text.truncate(tab);
+    }
+    proxy()->drawItemText(
+        painter, textRect, flags | Qt::AlignLeft, item.palette, enabled, text, QPalette::Text);
 }
 
 bool WindowsModernStyle::drawMenuEmptyArea(
@@ -809,17 +750,11 @@ bool WindowsModernStyle::drawMenuBarItem(
     if (option->state & State_Sunken && enabled) {
         // Open towards its menu: the bottom edge falls outside the item.
         painter->setPen(m_colors.menuBorder);
-        QLinearGradient gradient = verticalGradient(r);
-        gradient.setColorAt(0, m_colors.menuBarOpenTop);
-        gradient.setColorAt(1, m_colors.menuBarOpenBottom);
-        painter->setBrush(gradient);
+        painter->setBrush(m_colors.gradient(Fill::MenuBarOpen, r, Qt::Vertical));
         painter->drawRect(cornerRect(r.left(), r.top(), r.right() - 1, r.bottom()));
     } else if (option->state & State_Selected && enabled) {
         painter->setPen(m_colors.hoverBorder);
-        QLinearGradient gradient = verticalGradient(r);
-        gradient.setColorAt(0, m_colors.hoverTop);
-        gradient.setColorAt(1, m_colors.hoverBottom);
-        painter->setBrush(gradient);
+        painter->setBrush(m_colors.gradient(Fill::Hover, r, Qt::Vertical));
         painter->drawRect(outlineRect(r));
     }
 
@@ -831,7 +766,7 @@ bool WindowsModernStyle::drawMenuBarItem(
     if (!pixmap.isNull()) {
         proxy()->drawItemPixmap(painter, r, Qt::AlignCenter, pixmap);
     } else {
-        // Always drawn as enabled, also for disabled menus, as the bar has always shown them.
+        // Driver contract: bar texts are drawn enabled, also for disabled menus, as always shown.
         const int flags = Qt::AlignCenter | Qt::TextSingleLine | mnemonicFlags(option, widget);
         proxy()->drawItemText(painter, r, flags, option->palette, true, item->text, QPalette::Text);
     }
@@ -848,10 +783,7 @@ bool WindowsModernStyle::drawDockWidgetTitle(
     const QStyleOption *option, QPainter *painter, const QWidget *) const
 {
     const QRect &r = option->rect;
-    QLinearGradient gradient = verticalGradient(r);
-    gradient.setColorAt(0, m_colors.barTop);
-    gradient.setColorAt(1, m_colors.barBottom);
-    painter->fillRect(r, gradient);
+    painter->fillRect(r, m_colors.gradient(Fill::Title, r, Qt::Vertical));
 
     const auto *dock = qstyleoption_cast<const QStyleOptionDockWidget *>(option);
     if (!dock)
@@ -883,12 +815,15 @@ bool WindowsModernStyle::drawToolBar(
             bar.setBottom(children.bottom() + ToolBarEndGap);
     }
 
+    // Clipped to round the corners: cut back by the inset along each edge, by half of it at the
+    // corner pixels.
     const int inset = ToolBarCornerInset;
     QRegion rounded(cornerRect(bar.left() + inset, bar.top(), bar.right() - inset, bar.bottom()));
     rounded += cornerRect(bar.left(), bar.top() + inset, bar.right(), bar.bottom() - inset);
-    rounded += bar.adjusted(1, 1, -1, -1);
+    rounded += bar.adjusted(inset / 2, inset / 2, -inset / 2, -inset / 2);
     painter->setClipRegion(rounded);
-    painter->fillRect(bar, toolBarGradient(bar, horizontal ? Qt::Horizontal : Qt::Vertical));
+    painter->fillRect(bar,
+        m_colors.gradient(Fill::ToolBar, bar, across(horizontal ? Qt::Horizontal : Qt::Vertical)));
 
     painter->setPen(horizontal ? m_colors.borderDark : m_colors.borderLight);
     painter->drawLine(bar.left() + inset, bar.bottom(), bar.right() - inset, bar.bottom());
@@ -902,28 +837,17 @@ bool WindowsModernStyle::drawToolBar(
 bool WindowsModernStyle::drawToolBoxTabShape(
     const QStyleOption *option, QPainter *painter, const QWidget *) const
 {
-    const QRect &r = option->rect;
-    QLinearGradient gradient = verticalGradient(r);
-    if (option->state & State_Sunken) {
-        gradient.setColorAt(0, m_colors.pressedTop);
-        gradient.setColorAt(1, m_colors.pressedBottom);
-        painter->setPen(m_colors.borderDark);
-    } else if (option->state & State_MouseOver && option->state & State_Enabled) {
-        gradient.setColorAt(0, m_colors.hoverTop);
-        gradient.setColorAt(1, m_colors.hoverBottom);
-        painter->setPen(m_colors.borderDark);
-    } else {
-        gradient.setColorAt(0, m_colors.barMiddle);
-        gradient.setColorAt(1, m_colors.barBottom);
-        painter->setPen(m_colors.borderLight);
-    }
-    painter->setBrush(gradient);
-    painter->drawRect(outlineRect(r));
+    const bool sunken = option->state & State_Sunken;
+    const bool hot = isHot(option->state);
+    const Fill fill = sunken ? Fill::Pressed : (hot ? Fill::Hover : Fill::Plain);
+    painter->setPen(sunken || hot ? m_colors.borderDark : m_colors.borderLight);
+    painter->setBrush(m_colors.gradient(fill, option->rect, Qt::Vertical));
+    painter->drawRect(outlineRect(option->rect));
     return true;
 }
 
 bool WindowsModernStyle::drawToolButton(
-    const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const
+    const QStyleOption *option, QPainter *painter, const QWidget *widget) const
 {
     const QToolBar *toolBar = parentToolBar(widget);
     const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(option);
@@ -933,7 +857,7 @@ bool WindowsModernStyle::drawToolButton(
     const QRect buttonRect = proxy()->subControlRect(CC_ToolButton, button, SC_ToolButton, widget);
     // Pressing either part of a split button also lights up the other one.
     State buttonState = button->state & ~State_Sunken;
-    State menuState = button->state & ~State_Sunken;
+    State menuState = buttonState;
     if (button->state & State_Sunken) {
         if (button->activeSubControls & SC_ToolButton) {
             buttonState |= State_Sunken;
@@ -944,23 +868,15 @@ bool WindowsModernStyle::drawToolButton(
         }
     }
 
-    const bool hot = buttonState & State_MouseOver && buttonState & State_Enabled;
+    const bool hot = isHot(buttonState);
     const bool checked = buttonState & State_On;
     const bool pressed = buttonState & State_Sunken;
     if (hot || checked || pressed) {
-        QLinearGradient gradient = toolBar->orientation() == Qt::Horizontal
-            ? verticalGradient(buttonRect)
-            : horizontalGradient(buttonRect);
-        if (pressed || (hot && checked))
-            setTriple(
-                gradient, m_colors.pressedTop, m_colors.pressedMiddle, m_colors.pressedBottom);
-        else if (checked)
-            setTriple(
-                gradient, m_colors.checkedTop, m_colors.checkedMiddle, m_colors.checkedBottom);
-        else
-            setTriple(gradient, m_colors.hoverTop, m_colors.hoverMiddle, m_colors.hoverBottom);
+        const Fill fill = pressed || (hot && checked) ? Fill::Pressed
+            : checked                                 ? Fill::Checked
+                                                      : Fill::Hover;
         painter->setPen(m_colors.hoverBorder);
-        painter->setBrush(gradient);
+        painter->setBrush(m_colors.gradient(fill, buttonRect, across(toolBar->orientation())));
         painter->drawRect(outlineRect(buttonRect));
     }
 
@@ -968,21 +884,26 @@ bool WindowsModernStyle::drawToolButton(
     const int frame = proxy()->pixelMetric(PM_DefaultFrameWidth, option, widget);
     label.rect = buttonRect.adjusted(frame, frame, -frame, -frame);
     proxy()->drawControl(CE_ToolButtonLabel, &label, painter, widget);
+    drawToolButtonMenuIndicator(*button, menuState, painter, widget);
+    return true;
+}
 
-    if (button->subControls & SC_ToolButtonMenu) {
-        QStyleOptionToolButton menu = *button;
-        menu.rect = proxy()->subControlRect(CC_ToolButton, button, SC_ToolButtonMenu, widget);
+void WindowsModernStyle::drawToolButtonMenuIndicator(const QStyleOptionToolButton &button,
+    State menuState, QPainter *painter, const QWidget *widget) const
+{
+    if (button.subControls & SC_ToolButtonMenu) {
+        QStyleOptionToolButton menu = button;
+        menu.rect = proxy()->subControlRect(CC_ToolButton, &button, SC_ToolButtonMenu, widget);
         menu.state = menuState;
         proxy()->drawPrimitive(PE_IndicatorButtonDropDown, &menu, painter, widget);
-    } else if (button->features & QStyleOptionToolButton::HasMenu) {
-        // The button's height rather than its bottom edge places the arrow, one pixel lower.
-        const int indicator = proxy()->pixelMetric(PM_MenuButtonIndicator, option, widget);
-        const QRect &r = button->rect;
-        QStyleOptionToolButton arrow = *button;
+    } else if (button.features & QStyleOptionToolButton::HasMenu) {
+        // Driver contract: the button's height, not its bottom, places the arrow (a pixel lower).
+        const int indicator = proxy()->pixelMetric(PM_MenuButtonIndicator, &button, widget);
+        const QRect &r = button.rect;
+        QStyleOptionToolButton arrow = button;
         arrow.rect = QRect(r.right() - indicator + ToolButtonArrowOffset,
             r.height() - indicator + ToolButtonArrowOffset, indicator - ToolButtonArrowShrink,
             indicator - ToolButtonArrowShrink);
         proxy()->drawPrimitive(PE_IndicatorArrowDown, &arrow, painter, widget);
     }
-    return true;
 }

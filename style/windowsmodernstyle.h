@@ -6,7 +6,9 @@
 
 #include <QProxyStyle>
 
-class QLinearGradient;
+class QStyleOptionMenuItem;
+class QStyleOptionTab;
+class QStyleOptionToolButton;
 
 // The application's own widget style: menus, tool bars, dock titles, tool boxes, main-window
 // tabs and main-window backgrounds in soft gradients taken from the palette; everything else is
@@ -26,7 +28,7 @@ public:
     // Scheme of the desktop theme; always the palette-derived one once polished.
     int colorScheme() const { return m_colorScheme; }
 
-    // The colours of the last palette polish; invalid before it.
+    // The colours of the current palette; invalid before the first palette polish.
     const ModernColors &colors() const { return m_colors; }
 
     void polish(QPalette &palette) override;
@@ -96,7 +98,15 @@ private:
         const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
 
     bool drawTabShape(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    // The outline of a main-window tab, moved and widened by its state and place in the bar.
+    static QRect tabShapeRect(const QStyleOptionTab &tab);
     bool drawMenuItem(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    // The check area of a menu item with its frame, icon or check mark.
+    void drawMenuItemCheck(
+        const QStyleOptionMenuItem &item, QPainter *painter, const QWidget *widget) const;
+    // The item's text, with a shortcut after a tab aligned to the right.
+    void drawMenuItemText(
+        const QStyleOptionMenuItem &item, QPainter *painter, const QWidget *widget) const;
     bool drawMenuEmptyArea(
         const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
     bool drawMenuBarItem(
@@ -108,11 +118,11 @@ private:
     bool drawToolBoxTabShape(
         const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
 
-    bool drawToolButton(
-        const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const;
+    bool drawToolButton(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    // The drop-down part of a split button, or the arrow of a button that has a menu.
+    void drawToolButtonMenuIndicator(const QStyleOptionToolButton &button, State menuState,
+        QPainter *painter, const QWidget *widget) const;
 
-    // The tool-bar gradient over rect, across a bar of the given orientation.
-    QLinearGradient toolBarGradient(const QRect &rect, Qt::Orientation orientation) const;
     // Text flags that show mnemonics only where the platform underlines shortcuts.
     int mnemonicFlags(const QStyleOption *option, const QWidget *widget) const;
 
