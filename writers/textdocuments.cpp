@@ -166,6 +166,7 @@ QByteArray spreadsheetMl(const QStringList &pages)
     QByteArray out;
     QXmlStreamWriter xml(&out);
     xml.setAutoFormatting(true);
+    xml.setAutoFormattingIndent(1);
     xml.writeStartDocument();
     xml.writeProcessingInstruction(
         QStringLiteral("mso-application"), QStringLiteral("progid=\"Excel.Sheet\""));

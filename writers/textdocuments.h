@@ -19,7 +19,7 @@ QStringList pagesOf(const QByteArray &pdftotextOutput);
 QStringList linesOf(const QString &page);
 
 // RTF 1.x: one \page between pages, every non-ASCII character as \uN?, layout spaces kept, a
-// monospaced font sized so that the widest line fits the default page without wrapping.
+// monospaced font sized (4 to 10 points) so that the widest line fits the page without wrapping.
 QByteArray rtf(const QStringList &pages);
 
 // SpreadsheetML 2003 XML workbook: one worksheet per page ("Page 1"...; one empty worksheet when
