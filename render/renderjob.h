@@ -16,7 +16,8 @@ enum class Failure {
     MissingTool, // a program that rendering needs is not installed
     FolderGone, // the output folder does not exist (any more) or cannot be written
     DiskFull, // the output folder's file system filled up
-    Refused, // the options ask for something that cannot be made (a password the encryption cannot hold)
+    Refused, // the options ask for something that cannot be made (a password the encryption cannot
+             // hold)
     ToolFailed, // a tool ended with an error of its own
 };
 
@@ -32,15 +33,16 @@ struct Result
 // What happens when a final name is already taken.
 enum class Existing {
     Replace, // the user agreed in the dialog's question: the file is replaced
-    KeepAll, // nobody was asked: the new files take the next free names, "NAME (2)", "NAME (3)", ...
+    KeepAll, // nobody was asked: the new files take the next free names, "NAME (2)", "NAME (3)",
+             // ...
 };
 
 // Renders `jobPdf` with the values of the user's current settings, read exactly as the dialog
 // reads them (the all-users key when the machine key says so; the exchange values from the user
 // key). `name` is the file name without folder and extension; empty takes the stored
 // "newfilename". The folder is the stored "Path". On failure nothing is left in the folder.
-Result renderJob(const QString &jobPdf, const QString &name = QString(),
-    Existing existing = Existing::Replace);
+Result renderJob(
+    const QString &jobPdf, const QString &name = QString(), Existing existing = Existing::Replace);
 
 } // namespace Render
 

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#ifndef VELLUMIO_PLANRUNNER_H
+#define VELLUMIO_PLANRUNNER_H
+
+#include "render/renderjob.h"
+#include "render/renderplan.h"
+
+#include <QString>
+
+namespace Render {
+
+// Runs `plan` in a private folder (owner-only, a unique name) inside `folder`, at most
+// `parallel` tasks side by side, then moves the outputs into `folder` under their names, all of
+// them or none. On any failure the private folder goes and nothing new is left in `folder`.
+Result runPlan(const Plan &plan, const QString &folder, Existing existing, int parallel);
+
+// The first program of `programs` that is not installed, or an empty text.
+QString missingProgram(const QStringList &programs);
+
+// The one-line message of a failure.
+Result failure(Failure cause, const QString &message);
+
+} // namespace Render
+
+#endif // VELLUMIO_PLANRUNNER_H

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#ifndef VELLUMIO_RENDERING_H
+#define VELLUMIO_RENDERING_H
+
+#include "render/renderjob.h"
+#include "render/renderoptions.h"
+
+namespace Render {
+
+// The pages of a PDF as its reader counts them; 0, with the cause in `failure`, when the PDF
+// cannot be read or has no pages.
+int pageCount(const QString &pdf, Result *failure);
+
+// Renders `jobPdf` with `options`, at most `parallel` tools side by side: the checks of the
+// folder and the name, the page count, the plan, the tools it needs, then the run.
+Result renderJob(const Options &options, const QString &jobPdf, Existing existing, int parallel);
+
+// The tools side by side when nothing says otherwise: one per core.
+int defaultParallel();
+
+} // namespace Render
+
+#endif // VELLUMIO_RENDERING_H

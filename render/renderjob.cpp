@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Renders a printed job with the user's settings: checks, page count, plan and run.
+#include "render/renderjob.h"
+
+#include "render/filenames.h"
+#include "render/planrunner.h"
+#include "render/rendering.h"
+#include "render/renderplan.h"
+
+#include <QFileInfo>
+#include <QProcess>
+#include <QThread>
+
+namespace Render {
+
+namespace {
+
+// The longest file name the folder's file system takes, in bytes.
+constexpr int longestName = 255;
+// Room kept for " (k)" when a name must be kept aside.
+constexpr int keptAsideRoom = 8;
+constexpr int pageCountSeconds = 120;
+constexpr int qpdfWarnings = 3;
+
+Result damaged(const QString &pdf, const QString &cause)
+{
+    return failure(Failure::DamagedJob, QStringLiteral("The job's PDF %1 %2").arg(pdf, cause));
+}
+
+} // namespace
+
+int defaultParallel()
+{
+    return qMax(1, QThread::idealThreadCount());
+}
+
+int pageCount(const QString &pdf, Result *result)
+{
+    const QFileInfo info(pdf);
+    if (!info.isFile() || !info.isReadable()) {
+        *result = damaged(pdf, QStringLiteral("cannot be read"));
+        return 0;
+    }
+    const QString reader = QStringLiteral("qpdf");
+    if (!missingProgram({reader}).isEmpty()) {
+        *result = failure(Failure::MissingTool,
+            QStringLiteral("%1 is not installed (Debian package %2)")
+                .arg(reader, packageOf(reader)));
+        return 0;
+    }
+    QProcess process;
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.start(reader, {QStringLiteral("--show-npages"), info.absoluteFilePath()});
+    if (!process.waitForFinished(pageCountSeconds * 1000)) {
+        process.kill();
+        process.waitForFinished(-1);
+        *result = damaged(pdf, QStringLiteral("cannot be read: its pages could not be counted"));
+        return 0;
+    }
+    // qpdf repairs what it can and says so with status 3.
+    const QString errors = QString::fromUtf8(process.readAllStandardError()).trimmed();
+    bool ok = false;
+    const int count = QString::fromUtf8(process.readAllStandardOutput()).trimmed().toInt(&ok);
+    if (process.exitStatus() != QProcess::NormalExit
+        || (process.exitCode() != 0 && process.exitCode() != qpdfWarnings) || !ok) {
+        *result = damaged(
+            pdf, QStringLiteral("cannot be read: ") + errors.section(QLatin1Char('\n'), -1));
+        return 0;
+    }
+    if (count <= 0)
+        *result = damaged(pdf, QStringLiteral("has no pages"));
+    return qMax(count, 0);
+}
+
+Result renderJob(const Options &given, const QString &jobPdf, Existing existing, int parallel)
+{
+    Result result;
+    const int pages = pageCount(jobPdf, &result);
+    if (pages == 0)
+        return result;
+
+    Options options = given;
+    const QFileInfo folder(options.folder);
+    if (options.folder.isEmpty())
+        return failure(Failure::FolderGone, QStringLiteral("No output folder is set."));
+    if (!folder.isDir())
+        return failure(Failure::FolderGone,
+            QStringLiteral("The output folder does not exist: %1").arg(options.folder));
+    options.name = FileNames::fileNameOf(options.name);
+    if (options.name.isEmpty())
+        return failure(Failure::Refused, QStringLiteral("The job has no file name."));
+
+    const Plan plan
+        = makePlan(options, {QFileInfo(jobPdf).absoluteFilePath(), pages, qMax(1, parallel)});
+    if (!plan.refusal.isEmpty())
+        return failure(Failure::Refused, plan.refusal);
+    for (const Output &output : plan.outputs) {
+        if (output.fileName.toUtf8().size() + keptAsideRoom > longestName)
+            return failure(Failure::Refused,
+                QStringLiteral("The file name is too long: %1").arg(output.fileName));
+    }
+    const QString missing = missingProgram(plan.programs());
+    if (!missing.isEmpty())
+        return failure(Failure::MissingTool,
+            QStringLiteral("%1 is not installed (Debian package %2)")
+                .arg(missing, packageOf(missing)));
+    return runPlan(plan, folder.absoluteFilePath(), existing, parallel);
+}
+
+Result renderJob(const QString &jobPdf, const QString &name, Existing existing)
+{
+    Options options = currentOptions();
+    if (!name.isEmpty())
+        options.name = name;
+    return renderJob(options, jobPdf, existing, defaultParallel());
+}
+
+} // namespace Render
