@@ -2,6 +2,7 @@
 #ifndef FMTASK_MAINWINDOW_H
 #define FMTASK_MAINWINDOW_H
 
+#include "settings/settingsschema.h"
 #include "settings/settingsscope.h"
 
 #include <QMainWindow>
@@ -10,6 +11,7 @@
 namespace Ui {
 class MainWindow;
 }
+class SettingsKey;
 
 // The per-job options dialog: format pages, per-format options, output file and the after-print
 // switches. Its choices live in the widgets and in the process-wide JobSettings values until
@@ -70,6 +72,13 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    // What a value of the settings table is bound to, read and set in the type of its binding.
+    QWidget *boundWidget(const Settings::Entry &row) const;
+    QVariant boundValue(const Settings::Entry &row) const;
+    void setBoundValue(const Settings::Entry &row, const QVariant &value);
+    // The loading of a value that has a step of its own.
+    void loadStep(const SettingsKey &key, Settings::Value value);
+
     void setCompression(const char *code, bool state);
     void retranslate();
 

@@ -70,6 +70,9 @@ QString SettingsKey::text(Settings::Value value) const
 
 bool SettingsKey::flag(Settings::Value value) const
 {
+    // Driver contract: some switches count only when they hold exactly "true".
+    if (Settings::entry(value).form == Settings::Form::ExactFlag)
+        return text(value) == QLatin1String("true");
     return this->value(value).toBool();
 }
 

@@ -30,7 +30,8 @@ public:
     // A value of the table read with its default.
     QVariant value(Settings::Value value) const;
     QString text(Settings::Value value) const;
-    bool flag(Settings::Value value) const; // "false" in any case, "0" and empty are false
+    // "false" in any case, "0" and empty are false; an exact flag is true only as "true"
+    bool flag(Settings::Value value) const;
     int integer(Settings::Value value) const;
 
     // Writes a value in its stored form: flags as "true"/"false", typed booleans as booleans.

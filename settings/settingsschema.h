@@ -2,6 +2,8 @@
 #ifndef FMTASK_SETTINGSSCHEMA_H
 #define FMTASK_SETTINGSSCHEMA_H
 
+#include "settings/jobsettings.h"
+
 #include <QList>
 #include <QString>
 #include <QVariant>
@@ -91,11 +93,38 @@ enum class Form {
     Scrambled, // a password after scramblePassword
 };
 
+// How loading treats a value, in the order of the table.
+enum class Loading {
+    Bound, // into what it is bound to
+    OneSided, // only ever switched on: a stored "false" leaves the binding as it was
+    WithConverter, // into its binding only when the DjVu converter is there
+    OwnStep, // by a step of its own in the loading code
+    NotRead, // read elsewhere, or never: values for the driver
+};
+
 enum class Written {
     Never,
-    EverySave,
-    PageCurrent, // only when the tab of `page` is current at saving
+    Exchange, // with the job's outcome, at the start of every save
+    Always,
+    PageCurrent, // only when the tab of `page` is current at saving (any page 0..11 for anyPage)
     WhenUnchecked, // only as "false", when its check box is unchecked
+};
+
+constexpr int anyPage = -1;
+
+// What a value is shown in or kept in while the dialog runs: a widget of the main form (by
+// object name, property "checked", "value" or "text" by the stored form), or a job value.
+struct Binding
+{
+    const char *widget = nullptr;
+    QString JobSettings::*jobText = nullptr;
+    bool JobSettings::*jobFlag = nullptr;
+    QString PdfSettings::*pdfText = nullptr;
+    bool PdfSettings::*pdfFlag = nullptr;
+    bool PdfPermissions::*permission = nullptr;
+    int extensionOf = -1; // a format index: its stored file extension
+
+    bool isWidget() const { return widget != nullptr; }
 };
 
 struct Entry
@@ -104,11 +133,14 @@ struct Entry
     const char *name;
     Form form;
     const char *defaultText; // nullptr: no default, the read gives an invalid value
+    Binding binding;
+    Loading loading;
     Written written;
-    int page; // format index for Written::PageCurrent, else -1
+    int page; // format index for Written::PageCurrent, else anyPage
+    int writeRank; // place among the writes of a save, smaller first
 };
 
-// The whole table, in the order of Value.
+// The whole table, in the order in which loading reads it.
 const std::array<Entry, ValueCount> &entries();
 
 const Entry &entry(Value value);
@@ -118,9 +150,11 @@ QString name(Value value);
 // integers, a boolean for flags, text otherwise); invalid where there is none.
 QVariant defaultValue(Value value);
 
-// The per-format values of a format page in the order in which saving writes them, "format"
-// among them; empty outside 0..11.
-const QList<Value> &pageValues(int index);
+// The values a save writes itself (the exchange values aside), in the order it writes them.
+const QList<const Entry *> &writeOrder();
+
+// Whether a save with the tab `page` current writes the value.
+bool writtenOnPage(const Entry &entry, int page);
 
 } // namespace Settings
 
