@@ -1,0 +1,280 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The print path's rules without files or processes: hostile job titles, the order of jobs, the
+// job description the backend writes and the agent reads, the backend's words and users, and what
+// the agent does after the dialog.
+#include "agent/jobrules.h"
+#include "backend/spooljob.h"
+
+#include <QTest>
+
+#include <algorithm>
+
+using JobRules::AfterDialog;
+
+Q_DECLARE_METATYPE(AfterDialog)
+Q_DECLARE_METATYPE(Spool::UserVerdict)
+
+namespace {
+
+QByteArray bytes(const std::string &text)
+{
+    return QByteArray::fromStdString(text);
+}
+
+std::vector<std::string> toStd(const QStringList &list)
+{
+    std::vector<std::string> result;
+    for (const QString &word : list)
+        result.push_back(word.toStdString());
+    return result;
+}
+
+} // namespace
+
+class tst_PrintRules : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void safeFileName_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("name"); // handed to the dialog
+
+        const QString smile = QStringLiteral("\U0001F600");
+        // clang-format off
+        QTest::newRow("plain")                << "Quarterly report"          << "Quarterly report";
+        QTest::newRow("extension dropped")    << "notes.txt"                 << "notes";
+        QTest::newRow("two-letter kept")      << "archive.tar.gz"            << "archive.tar.gz";
+        QTest::newRow("absolute path")        << "/home/ann/letters/to-bob.odt" << "to-bob";
+        QTest::newRow("Windows path")         << "C:\\Users\\ann\\memo.docx" << "memo";
+        QTest::newRow("trailing slash")       << "/srv/share/"               << "share";
+        QTest::newRow("parent folder")        << ".."                        << "Document";
+        QTest::newRow("escape by parents")    << "../../../etc/passwd"       << "passwd";
+        QTest::newRow("hidden file")          << ".bashrc"                   << "bashrc";
+        QTest::newRow("leading dashes")       << "--platform=vnc"            << "platform=vnc";
+        QTest::newRow("Qt option")            << "-stylesheet=/tmp/x.qss"    << "x";
+        QTest::newRow("dash after dots")      << ".-.-rf"                    << "rf";
+        QTest::newRow("line breaks")          << "two\nlines\r\nthree"       << "two lines three";
+        QTest::newRow("tab and escape")       << "a\tb\x1b[31mred"           << "a b[31mred";
+        QTest::newRow("NUL and DEL")          << QString::fromUtf8("a\0b\x7f" "c", 5) << "abc";
+        QTest::newRow("C1 controls")          << QString("x") + QChar(0x85) + "y" + QChar(0x9b) + "z" << "x yz";
+        QTest::newRow("right-to-left trick")  << QString("invoice") + QChar(0x202e) + "fdp.exe" << "invoicefdp";
+        QTest::newRow("zero width")           << QString("ab") + QChar(0x200b) + "c" << "abc";
+        QTest::newRow("paragraph separator")  << QString("a") + QChar(0x2029) + "b" << "a b";
+        QTest::newRow("lone surrogate")       << QString("a") + QChar(0xd800) + "b" << "ab";
+        QTest::newRow("emoji kept")           << smile + " party"            << smile + " party";
+        QTest::newRow("empty")                << ""                          << "Document";
+        QTest::newRow("only spaces")          << "   \t "                    << "Document";
+        QTest::newRow("only dots and dashes") << "-.-..--"                   << "Document";
+        QTest::newRow("10,000 characters")    << QString(10000, 'a')         << QString(JobRules::maxNameBytes, 'a');
+        // 4 bytes each: a character is never cut in half.
+        QTest::newRow("10,000 emoji halves")  << smile.repeated(5000)        << smile.repeated(JobRules::maxNameBytes / 4);
+        QTest::newRow("cut before a space")   << QString(JobRules::maxNameBytes - 1, 'a') + " b" << QString(JobRules::maxNameBytes - 1, 'a');
+        // clang-format on
+    }
+    void safeFileName()
+    {
+        QFETCH(QString, title);
+        QFETCH(QString, name);
+        const QString made = JobRules::safeFileName(title);
+        QCOMPARE(made, name);
+        QVERIFY(made.toUtf8().size() <= JobRules::maxNameBytes);
+        QVERIFY(!made.contains('/') && !made.startsWith('-') && !made.startsWith('.'));
+        QCOMPARE(JobRules::safeFileName(made), made);
+    }
+
+    void afterDialog_data()
+    {
+        QTest::addColumn<bool>("started");
+        QTest::addColumn<bool>("exitedNormally");
+        QTest::addColumn<bool>("keyRewritten");
+        QTest::addColumn<QString>("isAbort");
+        QTest::addColumn<AfterDialog>("next");
+
+        // clang-format off
+        QTest::newRow("Print")                     << true  << true  << true  << "false" << AfterDialog::Render;
+        QTest::newRow("Cancel")                    << true  << true  << true  << "true"  << AfterDialog::Cancelled;
+        QTest::newRow("title bar: nothing saved")  << true  << true  << false << "true"  << AfterDialog::Cancelled;
+        // The mark could not be saved and the previous job's Print is still there.
+        QTest::newRow("earlier Print left")        << true  << true  << false << "false" << AfterDialog::Cancelled;
+        QTest::newRow("killed after saving")       << true  << false << true  << "false" << AfterDialog::EndedAbnormally;
+        QTest::newRow("display gone")              << true  << false << false << "true"  << AfterDialog::EndedAbnormally;
+        QTest::newRow("value edited by hand")      << true  << true  << true  << "no"    << AfterDialog::Cancelled;
+        QTest::newRow("missing program")           << false << false << false << "false" << AfterDialog::NotStarted;
+        // clang-format on
+    }
+    void afterDialog()
+    {
+        QFETCH(bool, started);
+        QFETCH(bool, exitedNormally);
+        QFETCH(bool, keyRewritten);
+        QFETCH(QString, isAbort);
+        QFETCH(AfterDialog, next);
+        QCOMPARE(JobRules::afterDialog({started, exitedNormally, keyRewritten, isAbort}), next);
+    }
+
+    void dialogWanted_data()
+    {
+        QTest::addColumn<QVariant>("chDialog");
+        QTest::addColumn<bool>("wanted");
+
+        // clang-format off
+        QTest::newRow("never written") << QVariant()               << true;
+        QTest::newRow("unticked")      << QVariant("false")        << false;
+        QTest::newRow("edited case")   << QVariant("False")        << false;
+        QTest::newRow("shown again")   << QVariant("true")         << true;
+        QTest::newRow("emptied")       << QVariant("")             << true;
+        // clang-format on
+    }
+    void dialogWanted()
+    {
+        QFETCH(QVariant, chDialog);
+        QFETCH(bool, wanted);
+        QCOMPARE(JobRules::dialogWanted(chDialog), wanted);
+    }
+
+    void pendingJobs_data()
+    {
+        QTest::addColumn<QStringList>("entries");
+        QTest::addColumn<QStringList>("order");
+
+        const QString early = QString::fromStdString(Spool::jobName(1700000000000000, "9"));
+        const QString late = QString::fromStdString(Spool::jobName(1700000000000001, "2"));
+        const QString sameTime10 = QString::fromStdString(Spool::jobName(1700000000000000, "10"));
+        // clang-format off
+        QTest::newRow("oldest first")      << QStringList{late, early}             << QStringList{early, late};
+        QTest::newRow("same time, by id")  << QStringList{sameTime10, early}       << QStringList{early, sameTime10};
+        QTest::newRow("work in progress")  << QStringList{".incoming-7-123", ".finished-" + early, late} << QStringList{late};
+        QTest::newRow("other entries")     << QStringList{"failed", "123", "00000000000000000001-x", early + "-"} << QStringList{};
+        // clang-format on
+    }
+    void pendingJobs()
+    {
+        QFETCH(QStringList, entries);
+        QFETCH(QStringList, order);
+        QStringList taken;
+        for (const std::string &name : Spool::pendingJobs(toStd(entries)))
+            taken += QString::fromStdString(name);
+        QCOMPARE(taken, order);
+    }
+
+    void jobInfo_data()
+    {
+        QTest::addColumn<QByteArray>("title");
+
+        QTest::newRow("plain") << QByteArray("Quarterly report");
+        QTest::newRow("lines and escapes") << QByteArray("a\nb\r\n%41%\x1b\x7f=c");
+        QTest::newRow("NUL inside") << QByteArray("a\0b", 3);
+        QTest::newRow("not UTF-8") << QByteArray("\xff\xfe\xc3");
+        QTest::newRow("10,000 bytes") << QByteArray(10000, 'x');
+        QTest::newRow("empty") << QByteArray();
+    }
+    void jobInfo()
+    {
+        QFETCH(QByteArray, title);
+        Spool::Info info;
+        info.jobId = "42";
+        info.user = "ann";
+        info.title = title.toStdString();
+        info.copies = "2";
+        info.options = "media=A4 job-name=%ZZ";
+        info.time = 1700000000;
+        info.size = 12345;
+        const std::string text = Spool::formatInfo(info);
+        QCOMPARE(std::count(text.begin(), text.end(), '\n'), 8);
+        const std::optional<Spool::Info> read = Spool::parseInfo(text);
+        QVERIFY(read);
+        QCOMPARE(bytes(read->title), title);
+        QCOMPARE(bytes(read->options), bytes(info.options));
+        QCOMPARE(read->size, info.size);
+        QCOMPARE(bytes(read->jobId), bytes(info.jobId));
+    }
+
+    void damagedInfo_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<bool>("parses");
+
+        const QByteArray whole = "vellumio-job 1\njob-id=4\nuser=ann\ntitle=t\ncopies=1\noptions=\n"
+                                 "time=5\nsize=6\n";
+        QTest::newRow("whole") << whole << true;
+        QTest::newRow("cut short") << whole.chopped(1) << false;
+        QTest::newRow("line missing") << QByteArray(whole).replace("copies=1\n", "") << false;
+        QTest::newRow("line twice") << whole + "size=7\n" << false;
+        QTest::newRow("bad escape") << QByteArray(whole).replace("title=t", "title=%G1") << false;
+        QTest::newRow("escape cut") << QByteArray(whole).replace("title=t", "title=%4") << false;
+        QTest::newRow("raw control") << QByteArray(whole).replace("title=t", "title=\x01") << false;
+        QTest::newRow("other header")
+            << QByteArray(whole).replace("vellumio-job 1", "job 2") << false;
+        QTest::newRow("negative size") << QByteArray(whole).replace("size=6", "size=-6") << false;
+        QTest::newRow("job id not a number")
+            << QByteArray(whole).replace("job-id=4", "job-id=../4") << false;
+        QTest::newRow("empty") << QByteArray() << false;
+    }
+    void damagedInfo()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(bool, parses);
+        QCOMPARE(Spool::parseInfo(text.toStdString()).has_value(), parses);
+    }
+
+    void arguments_data()
+    {
+        QTest::addColumn<QStringList>("words");
+        QTest::addColumn<bool>("job");
+        QTest::addColumn<QString>("file");
+
+        // clang-format off
+        QTest::newRow("from standard input") << QStringList{"12", "ann", "Report", "1", ""}              << true  << "";
+        QTest::newRow("with a file")         << QStringList{"12", "ann", "Report", "1", "", "/var/d1"}  << true  << "/var/d1";
+        QTest::newRow("too few")             << QStringList{"12", "ann", "Report", "1"}                  << false << "";
+        QTest::newRow("too many")            << QStringList{"12", "ann", "R", "1", "", "/f", "x"}        << false << "";
+        QTest::newRow("job id not a number") << QStringList{"1/2", "ann", "Report", "1", ""}             << false << "";
+        QTest::newRow("no user")             << QStringList{"12", "", "Report", "1", ""}                 << false << "";
+        // clang-format on
+    }
+    void arguments()
+    {
+        QFETCH(QStringList, words);
+        QFETCH(bool, job);
+        QFETCH(QString, file);
+        const std::optional<Spool::Arguments> parsed = Spool::parseArguments(toStd(words));
+        QCOMPARE(parsed.has_value(), job);
+        if (parsed)
+            QCOMPARE(QString::fromStdString(parsed->file), file);
+    }
+
+    void users_data()
+    {
+        QTest::addColumn<bool>("found");
+        QTest::addColumn<uint>("uid");
+        QTest::addColumn<QByteArray>("loginDefs");
+        QTest::addColumn<Spool::UserVerdict>("verdict");
+
+        using V = Spool::UserVerdict;
+        const QByteArray debian
+            = "# comment\nUID_MIN\t\t\t 1000\nUID_MAX\t\t\t60000\nSYS_UID_MAX 999\n";
+        // clang-format off
+        QTest::newRow("first user")          << true  << 1000u  << debian                    << V::Accepted;
+        QTest::newRow("unknown")             << false << 1000u  << debian                    << V::Unknown;
+        QTest::newRow("root")                << true  << 0u     << QByteArray("UID_MIN 0")   << V::SystemAccount;
+        QTest::newRow("daemon")              << true  << 1u     << debian                    << V::SystemAccount;
+        QTest::newRow("nobody")              << true  << 65534u << debian                    << V::SystemAccount;
+        QTest::newRow("site's own minimum")  << true  << 600u   << QByteArray("UID_MIN 500") << V::Accepted;
+        QTest::newRow("no login.defs")       << true  << 999u   << QByteArray()              << V::SystemAccount;
+        QTest::newRow("garbled login.defs")  << true  << 1000u  << QByteArray("UID_MIN x\nUID_MAX") << V::Accepted;
+        // clang-format on
+    }
+    void users()
+    {
+        QFETCH(bool, found);
+        QFETCH(uint, uid);
+        QFETCH(QByteArray, loginDefs);
+        QFETCH(Spool::UserVerdict, verdict);
+        QCOMPARE(Spool::judgeUser(found, uid, Spool::uidRange(loginDefs.toStdString())), verdict);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_PrintRules)
+#include "tst_printrules.moc"
