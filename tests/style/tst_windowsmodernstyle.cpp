@@ -24,10 +24,10 @@ QColor grey(int v)
 
 // Colours the palette of initTestCase() leads to.
 const QColor Button(200, 100, 50), Light = grey(250), Dark = grey(100), Highlight(50, 100, 200);
-const QColor BarTop(244, 224, 214), BarMiddle(228, 178, 153), MenuBackground(247, 233, 226);
+const QColor BarTop(244, 224, 214), BarMiddle(228, 178, 153), MenuArea(247, 233, 226);
 const QColor HoverFill(194, 209, 239), CheckedFill(224, 232, 247), PressedFill(163, 185, 230);
 const QColor BorderLight = grey(131), SeparatorDark = grey(147), GripShadow = grey(139);
-const QColor MenuBorder = grey(80);
+const QColor MenuBorder = grey(80), WindowEnd(244, 223, 213);
 
 QPalette makePalette(const QColor &button, const QColor &base, const QColor &highlight)
 {
@@ -122,7 +122,9 @@ private slots:
         using S = QStyle;
         const S::State on = S::State_Enabled, hover = on | S::State_MouseOver,
                        pressed = on | S::State_Sunken, checked = on | S::State_On,
-                       selected = on | S::State_Selected;
+                       selected = on | S::State_Selected, hotCheck = hover | checked,
+                       checkSel = checked | selected, offSelect = S::State_Selected,
+                       offSunken = S::State_Sunken, offHover = S::State_MouseOver;
         const auto row = [](const char *name, Scene scene, S::State state, const char *widget,
                              QPoint point, const QColor &expected, int tolerance = 0) {
             QTest::addRow("%s at %d,%d", name, point.x(), point.y())
@@ -145,70 +147,70 @@ private slots:
             row(separator, BarSeparator, state, "", at(18, 2), Untouched);
         }
         // clang-format off
-        // name                         scene          state     widget          point     expected  tolerance
-        row("menu item",                MenuItem,      on,       "",             {0, 11},  BarTop,   4);
-        row("menu item",                MenuItem,      on,       "",             {24, 11}, Button,   4);
-        row("menu item",                MenuItem,      on,       "",             {25, 0},  MenuBackground);
-        row("selected menu item",       MenuItem,      selected, "",             {100, 11}, HoverFill);
-        row("selected menu item",       MenuItem,      selected, "",             {1, 11},  Highlight);
-        row("selected menu item",       MenuItem,      selected, "",             {0, 11},  Untouched);
-        row("disabled selected item",   MenuItem,      S::State_Selected, "",    {100, 11}, MenuBackground);
-        row("checked menu item",        MenuItem,      checked,  "",             {4, 3},   CheckedFill);
-        row("checked menu item",        MenuItem,      checked,  "",             {2, 3},   Highlight);
-        row("checked selected item",    MenuItem,      checked | selected, "",   {4, 3},   PressedFill);
-        row("menu separator",           MenuSeparator, on,       "",             {32, 10}, SeparatorDark);
-        row("menu separator",           MenuSeparator, on,       "",             {31, 10}, MenuBackground);
+        // Columns: name, scene, state, widget, point, expected colour, tolerance.
+        row("menu item",       MenuItem,      on,        "",             {0, 11},    BarTop,    4);
+        row("menu item",       MenuItem,      on,        "",             {24, 11},   Button,    4);
+        row("menu item",       MenuItem,      on,        "",             {25, 0},    MenuArea);
+        row("selected item",   MenuItem,      selected,  "",             {100, 11},  HoverFill);
+        row("selected item",   MenuItem,      selected,  "",             {1, 11},    Highlight);
+        row("selected item",   MenuItem,      selected,  "",             {0, 11},    Untouched);
+        row("disabled item",   MenuItem,      offSelect, "",             {100, 11},  MenuArea);
+        row("checked item",    MenuItem,      checked,   "",             {4, 3},     CheckedFill);
+        row("checked item",    MenuItem,      checked,   "",             {2, 3},     Highlight);
+        row("selected check",  MenuItem,      checkSel,  "",             {4, 3},     PressedFill);
+        row("menu separator",  MenuSeparator, on,        "",             {32, 10},   SeparatorDark);
+        row("menu separator",  MenuSeparator, on,        "",             {31, 10},   MenuArea);
         // An open menu-bar item stays open towards its menu: its frame ends below the item.
-        row("open menu bar item",       MenuBarItem,   pressed,  "",             {50, 6},  BarTop,   4);
-        row("open menu bar item",       MenuBarItem,   pressed,  "",             {50, 28}, BarMiddle, 4);
-        row("open menu bar item",       MenuBarItem,   pressed,  "",             {10, 15}, MenuBorder);
-        row("open menu bar item",       MenuBarItem,   pressed,  "",             {50, 29}, MenuBorder);
-        row("hovered menu bar item",    MenuBarItem,   selected, "",             {50, 15}, HoverFill);
-        row("hovered menu bar item",    MenuBarItem,   selected, "",             {10, 15}, Highlight);
-        row("disabled menu bar item",   MenuBarItem,   S::State_Sunken, "",      {50, 15}, Untouched);
+        row("open bar item",   MenuBarItem,   pressed,   "",             {50, 6},    BarTop,    4);
+        row("open bar item",   MenuBarItem,   pressed,   "",             {50, 28},   BarMiddle, 4);
+        row("open bar item",   MenuBarItem,   pressed,   "",             {10, 15},   MenuBorder);
+        row("open bar item",   MenuBarItem,   pressed,   "",             {50, 29},   MenuBorder);
+        row("hovered bar",     MenuBarItem,   selected,  "",             {50, 15},   HoverFill);
+        row("hovered bar",     MenuBarItem,   selected,  "",             {10, 15},   Highlight);
+        row("disabled bar",    MenuBarItem,   offSunken, "",             {50, 15},   Untouched);
         // The selected tab reaches two pixels over its left neighbour and one into the pane.
-        row("selected tab",             Tab,           selected, "main bar",     {8, 17},  Dark);
-        row("selected tab",             Tab,           selected, "main bar",     {7, 17},  Untouched);
-        row("selected tab",             Tab,           selected, "main bar",     {49, 6},  HoverFill, 8);
-        row("hovered tab",              Tab,           hover,    "main bar",     {10, 17}, BorderLight);
-        row("hovered tab",              Tab,           hover,    "main bar",     {9, 17},  Untouched);
-        row("hovered tab",              Tab,           hover,    "main bar",     {49, 7},  HoverFill);
-        row("plain tab",                Tab,           on,       "main bar",     {49, 7},  BarMiddle, 8);
-        row("plain tab",                Tab,           on,       "main bar",     {49, 27}, Button,   8);
+        row("selected tab",    Tab,           selected,  "main bar",     {8, 17},    Dark);
+        row("selected tab",    Tab,           selected,  "main bar",     {7, 17},    Untouched);
+        row("selected tab",    Tab,           selected,  "main bar",     {49, 6},    HoverFill, 8);
+        row("hovered tab",     Tab,           hover,     "main bar",     {10, 17},   BorderLight);
+        row("hovered tab",     Tab,           hover,     "main bar",     {9, 17},    Untouched);
+        row("hovered tab",     Tab,           hover,     "main bar",     {49, 7},    HoverFill);
+        row("plain tab",       Tab,           on,        "main bar",     {49, 7},    BarMiddle, 8);
+        row("plain tab",       Tab,           on,        "main bar",     {49, 27},   Button,    8);
         // Below the pages the gradients run upwards, from the tab's outer edge to the pane.
-        row("plain south tab",          Tab,           on,       "south bar",    {49, 25}, BarMiddle, 4);
-        row("plain south tab",          Tab,           on,       "south bar",    {49, 5},  Button,   8);
-        row("selected south tab",       Tab,           selected, "south bar",    {49, 26}, HoverFill, 8);
-        row("selected dialog tab",      Tab,           selected, "dialog bar",   {50, 17}, AsBase);
-        row("pressed tool box tab",     ToolBoxTab,    pressed,  "",             {50, 15}, PressedFill);
-        row("pressed tool box tab",     ToolBoxTab,    pressed,  "",             {10, 15}, Dark);
-        row("hovered tool box tab",     ToolBoxTab,    hover,    "",             {50, 15}, HoverFill);
-        row("hovered tool box tab",     ToolBoxTab,    hover,    "",             {10, 15}, Dark);
-        row("plain tool box tab",       ToolBoxTab,    on,       "",             {50, 6},  BarMiddle, 8);
-        row("plain tool box tab",       ToolBoxTab,    on,       "",             {50, 27}, Button,   8);
-        row("plain tool box tab",       ToolBoxTab,    on,       "",             {10, 15}, BorderLight);
-        row("disabled tool box tab",    ToolBoxTab,    S::State_MouseOver, "",   {50, 6},  BarMiddle, 8);
-        row("checked bar button",       ToolButton,    checked,  "bar button",   {25, 16}, CheckedFill);
-        row("checked bar button",       ToolButton,    checked,  "bar button",   {5, 16},  Highlight);
-        row("hovered bar button",       ToolButton,    hover,    "bar button",   {25, 16}, HoverFill);
-        row("hovered checked button",   ToolButton,    hover | checked, "bar button", {25, 16}, PressedFill);
-        row("pressed bar button",       ToolButton,    pressed,  "bar button",   {25, 16}, PressedFill);
-        row("plain bar button",         ToolButton,    on,       "bar button",   {25, 16}, Untouched);
-        row("checked side button",      ToolButton,    checked,  "side button",  {25, 16}, CheckedFill);
-        row("loose tool button",        ToolButton,    hover | checked, "loose button", {25, 16}, AsBase);
+        row("south tab",       Tab,           on,        "south bar",    {49, 25},   BarMiddle, 4);
+        row("south tab",       Tab,           on,        "south bar",    {49, 5},    Button,    8);
+        row("selected south",  Tab,           selected,  "south bar",    {49, 26},   HoverFill, 8);
+        row("dialog tab",      Tab,           selected,  "dialog bar",   {50, 17},   AsBase);
+        row("pressed box tab", ToolBoxTab,    pressed,   "",             {50, 15},   PressedFill);
+        row("pressed box tab", ToolBoxTab,    pressed,   "",             {10, 15},   Dark);
+        row("hovered box tab", ToolBoxTab,    hover,     "",             {50, 15},   HoverFill);
+        row("hovered box tab", ToolBoxTab,    hover,     "",             {10, 15},   Dark);
+        row("plain box tab",   ToolBoxTab,    on,        "",             {50, 6},    BarMiddle, 8);
+        row("plain box tab",   ToolBoxTab,    on,        "",             {50, 27},   Button,    8);
+        row("plain box tab",   ToolBoxTab,    on,        "",             {10, 15},   BorderLight);
+        row("disabled box",    ToolBoxTab,    offHover,  "",             {50, 6},    BarMiddle, 8);
+        row("checked button",  ToolButton,    checked,   "bar button",   {25, 16},   CheckedFill);
+        row("checked button",  ToolButton,    checked,   "bar button",   {5, 16},    Highlight);
+        row("hovered button",  ToolButton,    hover,     "bar button",   {25, 16},   HoverFill);
+        row("hot checked",     ToolButton,    hotCheck,  "bar button",   {25, 16},   PressedFill);
+        row("pressed button",  ToolButton,    pressed,   "bar button",   {25, 16},   PressedFill);
+        row("plain button",    ToolButton,    on,        "bar button",   {25, 16},   Untouched);
+        row("checked side",    ToolButton,    checked,   "side button",  {25, 16},   CheckedFill);
+        row("dialog button",   ToolButton,    hotCheck,  "loose button", {25, 16},   AsBase);
         // The drop-down box shares the button's right border, one pixel left of its own rectangle.
-        row("hovered drop-down",        DropDown,      hover,    "bar button",   {51, 6},  HoverFill);
-        row("hovered drop-down",        DropDown,      hover,    "bar button",   {49, 15}, Highlight);
-        row("pressed drop-down",        DropDown,      pressed,  "bar button",   {51, 6},  PressedFill);
-        row("pressed side drop-down",   DropDown,      pressed,  "side button",  {51, 6},  PressedFill);
-        row("plain drop-down",          DropDown,      on,       "bar button",   {51, 6},  Untouched);
-        row("loose drop-down",          DropDown,      hover,    "loose button", {51, 6},  Untouched);
+        row("hovered arrow",   DropDown,      hover,     "bar button",   {51, 6},    HoverFill);
+        row("hovered arrow",   DropDown,      hover,     "bar button",   {49, 15},   Highlight);
+        row("pressed arrow",   DropDown,      pressed,   "bar button",   {51, 6},    PressedFill);
+        row("side arrow",      DropDown,      pressed,   "side button",  {51, 6},    PressedFill);
+        row("plain arrow",     DropDown,      on,        "bar button",   {51, 6},    Untouched);
+        row("dialog arrow",    DropDown,      hover,     "loose button", {51, 6},    Untouched);
         // The main window's gradient is complete at three fifths of the width and stops above
         // the status bar, which gets a light line on top.
-        row("main window",              MainWindow,    on,       "main window",  {0, 100}, Button,   3);
-        row("main window",              MainWindow,    on,       "main window",  {125, 169}, QColor(244, 223, 213), 1);
-        row("main window",              MainWindow,    on,       "main window",  {199, 170}, Light);
-        row("main window",              MainWindow,    on,       "main window",  {100, 171}, Untouched);
+        row("main window",     MainWindow,    on,        "main window",  {0, 100},   Button,    3);
+        row("main window",     MainWindow,    on,        "main window",  {125, 169}, WindowEnd, 1);
+        row("main window",     MainWindow,    on,        "main window",  {199, 170}, Light);
+        row("main window",     MainWindow,    on,        "main window",  {100, 171}, Untouched);
         // clang-format on
     }
 
@@ -268,18 +270,19 @@ private slots:
         QTest::addColumn<QByteArray>("widget");
         QTest::addColumn<QStyle::PixelMetric>("metric");
         QTest::addColumn<int>("expected"); // Base: the base style's value
-        QTest::newRow("tool-bar button does not shift")
-            << QByteArray("bar button") << QStyle::PM_ButtonShiftVertical << 0;
-        QTest::newRow("dialog button shifts as the base")
-            << QByteArray("loose button") << QStyle::PM_ButtonShiftVertical << Base;
-        QTest::newRow("south tabs shift up")
-            << QByteArray("south bar") << QStyle::PM_TabBarTabShiftVertical << -2;
-        QTest::newRow("north tabs shift down")
-            << QByteArray("main bar") << QStyle::PM_TabBarTabShiftVertical << 2;
-        QTest::newRow("dialog tabs shift as the base")
-            << QByteArray("dialog bar") << QStyle::PM_TabBarTabShiftVertical << Base;
-        QTest::newRow("main tabs overlap nothing")
-            << QByteArray("main tabs") << QStyle::PM_TabBarBaseOverlap << 0;
+        using S = QStyle;
+        const auto row
+            = [](const char *name, const char *widget, QStyle::PixelMetric metric, int expected) {
+                  QTest::newRow(name) << QByteArray(widget) << metric << expected;
+              };
+        // clang-format off
+        row("tool-bar button does not shift",   "bar button",   S::PM_ButtonShiftVertical,    0);
+        row("dialog button shifts as the base", "loose button", S::PM_ButtonShiftVertical,    Base);
+        row("south tabs shift up",              "south bar",    S::PM_TabBarTabShiftVertical, -2);
+        row("north tabs shift down",            "main bar",     S::PM_TabBarTabShiftVertical, 2);
+        row("dialog tabs shift as the base",    "dialog bar",   S::PM_TabBarTabShiftVertical, Base);
+        row("main tabs overlap nothing",        "main tabs",    S::PM_TabBarBaseOverlap,      0);
+        // clang-format on
     }
 
     void pixelMetric()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "previewwindow.h"
+// A main window with one of each element the modern style paints.
+#include "tools/stylepreview/previewwindow.h"
 
 #include "ui_previewwindow.h"
 
