@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The session agent's job loop: spool folder watched, dialog started and read, job rendered.
+#include "agent/agent.h"
+
+#include "agent/jobrules.h"
+#include "settings/settingskey.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <csignal>
+#include <sys/prctl.h>
+#include <sys/stat.h>
+
+namespace {
+
+// A job whose rendering was cut short this often (the agent died in it) is kept aside.
+constexpr int maxRenderAttempts = 2;
+
+QString quoted(const QString &title)
+{
+    return QLatin1Char('"') + title + QLatin1Char('"');
+}
+
+// The key the dialog reads its options from: the all-users key when the machine key says so.
+SettingsScope optionsScope()
+{
+    return SettingsKey(SettingsScope::Machine).flag(Settings::SettingsForAllUsers)
+        ? SettingsScope::Machine
+        : SettingsScope::User;
+}
+
+} // namespace
+
+bool Agent::KeyStamp::operator==(const KeyStamp &other) const
+{
+    return exists == other.exists && device == other.device && inode == other.inode
+        && modifiedNs == other.modifiedNs && size == other.size;
+}
+
+Agent::KeyStamp Agent::keyStamp()
+{
+    struct stat info;
+    KeyStamp stamp;
+    if (::stat(QFile::encodeName(SettingsKey::fileName(SettingsScope::User)).constData(), &info)
+        != 0)
+        return stamp;
+    stamp.exists = true;
+    stamp.device = info.st_dev;
+    stamp.inode = info.st_ino;
+    stamp.modifiedNs = info.st_mtim.tv_sec * 1000000000LL + info.st_mtim.tv_nsec;
+    stamp.size = info.st_size;
+    return stamp;
+}
+
+Agent::Agent(const SpoolFolder &spool, const Programs &programs, bool once)
+    : m_spool(spool)
+    , m_programs(programs)
+    , m_notifier(programs.messageBox)
+    , m_once(once)
+{
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &Agent::scheduleScan);
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &Agent::scheduleScan);
+    connect(&m_dialog, &QProcess::finished, this, [this](int, QProcess::ExitStatus status) {
+        dialogFinished(true, status == QProcess::NormalExit);
+    });
+    connect(&m_dialog, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            dialogFinished(false, false);
+    });
+    // The dialog goes with the agent: a job left by a killed agent is shown once more, not twice.
+    m_dialog.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
+    m_dialog.setProcessChannelMode(QProcess::ForwardedChannels);
+}
+
+bool Agent::start()
+{
+    QString why;
+    const SpoolFolder::State state = m_spool.check(&why);
+    if (state == SpoolFolder::State::Foreign || state == SpoolFolder::State::NoRoot) {
+        m_notifier.tell(QStringLiteral("Vellumio cannot take print jobs"), why);
+        return false;
+    }
+    if (state == SpoolFolder::State::Own)
+        m_spool.removeLeftovers();
+    scan();
+    return true;
+}
+
+void Agent::scheduleScan()
+{
+    if (m_scanQueued)
+        return;
+    m_scanQueued = true;
+    QTimer::singleShot(0, this, [this] {
+        m_scanQueued = false;
+        scan();
+    });
+}
+
+void Agent::scan()
+{
+    if (m_job || m_dialog.state() != QProcess::NotRunning || m_stopped)
+        return;
+    QString why;
+    switch (m_spool.check(&why)) {
+    case SpoolFolder::State::Own:
+        break;
+    case SpoolFolder::State::Missing:
+        // No job was ever spooled: wait for the backend to create the folder.
+        if (m_once)
+            return stop(0);
+        return watch(m_spool.stamp());
+    case SpoolFolder::State::NoRoot:
+    case SpoolFolder::State::Foreign:
+        m_notifier.tell(QStringLiteral("Vellumio stopped taking print jobs"), why);
+        return stop(1);
+    }
+    watch(m_spool.path());
+    const QStringList jobs = m_spool.pendingJobs();
+    if (!jobs.isEmpty())
+        takeJob(jobs.first());
+    else if (m_once)
+        stop(0);
+}
+
+void Agent::watch(const QString &path)
+{
+    const QStringList watched = m_watcher.files() + m_watcher.directories();
+    if (watched == QStringList {path})
+        return;
+    if (!watched.isEmpty())
+        m_watcher.removePaths(watched);
+    m_watcher.addPath(path);
+}
+
+void Agent::takeJob(const QString &name)
+{
+    QString damage;
+    m_jobName = name;
+    m_job = m_spool.readJob(name, &damage);
+    if (!m_job) {
+        m_title = name;
+        return failJob(damage);
+    }
+    m_title = QString::fromStdString(m_job->info.title);
+    m_fileName = JobRules::safeFileName(m_title);
+    if (!JobRules::dialogWanted(SettingsKey(SettingsScope::User).value(Settings::ChDialog)))
+        return render(Render::Existing::KeepAll, m_fileName);
+    showDialog();
+}
+
+void Agent::showDialog()
+{
+    // Driver contract: "isabort" is set before the dialog starts, so a dialog that is killed,
+    // loses its display or cannot save reads as cancelled, never as the previous job's Print.
+    const KeyStamp before = keyStamp();
+    SettingsKey(SettingsScope::User).setFlag(Settings::IsAbort, true);
+    m_markedKey = keyStamp();
+    if (m_markedKey == before)
+        return failJob(QStringLiteral("the settings file ")
+            + SettingsKey::fileName(SettingsScope::User)
+            + QStringLiteral(" cannot be written, so the dialog's choices would be lost"));
+    m_dialog.start(m_programs.dialog, {m_fileName});
+}
+
+void Agent::dialogFinished(bool started, bool exitedNormally)
+{
+    if (!m_job)
+        return;
+    JobRules::DialogEnd end;
+    end.started = started;
+    end.exitedNormally = exitedNormally;
+    end.keyRewritten = !(keyStamp() == m_markedKey);
+    end.isAbort = SettingsKey(SettingsScope::User).text(Settings::IsAbort);
+    switch (JobRules::afterDialog(end)) {
+    case JobRules::AfterDialog::Render:
+        // The name and folder are the ones just saved.
+        return render(Render::Existing::Replace, QString());
+    case JobRules::AfterDialog::Cancelled:
+        return finishJob();
+    case JobRules::AfterDialog::EndedAbnormally:
+        m_notifier.tell(QStringLiteral("Vellumio did not print ") + quoted(m_title),
+            QStringLiteral("The print dialog ended unexpectedly, so the job was cancelled."));
+        return finishJob();
+    case JobRules::AfterDialog::NotStarted:
+        return failJob(QStringLiteral("the print dialog ") + m_programs.dialog
+            + QStringLiteral(" cannot be started: ") + m_dialog.errorString());
+    }
+}
+
+void Agent::render(Render::Existing existing, const QString &name)
+{
+    if (m_spool.markRenderAttempt(m_jobName) >= maxRenderAttempts)
+        return failJob(QStringLiteral("rendering was interrupted twice"));
+    const Render::Result result = Render::renderJob(m_job->document, name, existing);
+    if (!result.ok())
+        return failJob(result.message);
+    if (!result.files.isEmpty() && SettingsKey(optionsScope()).flag(Settings::LoadExtApp))
+        openResult(result.files.first());
+    finishJob();
+}
+
+void Agent::openResult(const QString &file) const
+{
+    const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+    if (opener.isEmpty() || !QProcess::startDetached(opener, {file}))
+        m_notifier.tell(QStringLiteral("Vellumio printed ") + quoted(m_title),
+            QStringLiteral("The result cannot be opened: xdg-open (package xdg-utils) is "
+                           "missing. It is ")
+                + file);
+}
+
+void Agent::finishJob()
+{
+    const QString name = m_jobName;
+    m_job.reset();
+    // A job that stays in the queue would be shown again and again: set it aside at least.
+    if (!m_spool.remove(name) && !m_spool.moveAside(name)) {
+        m_notifier.tell(QStringLiteral("Vellumio stopped taking print jobs"),
+            QStringLiteral("The finished job ") + name + QStringLiteral(" cannot be removed from ")
+                + m_spool.path());
+        return stop(1);
+    }
+    scheduleScan();
+}
+
+void Agent::failJob(const QString &why)
+{
+    const QString name = m_jobName;
+    m_job.reset();
+    const bool kept = m_spool.moveAside(name);
+    m_notifier.tell(QStringLiteral("Vellumio could not print ") + quoted(m_title),
+        why
+            + (kept ? QStringLiteral(
+                   ". The job is kept: \"vellumio-agent --retry\" prints it again.")
+                    : QStringLiteral(". The job cannot be kept and is dropped.")));
+    if (!kept && !m_spool.remove(name))
+        return stop(1);
+    scheduleScan();
+}
+
+void Agent::stop(int status)
+{
+    m_stopped = true;
+    m_watcher.removePaths(m_watcher.files() + m_watcher.directories());
+    emit stopped(status);
+}
