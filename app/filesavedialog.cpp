@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The save-as-only mode: its banner, the Save As question and the outcome it hands the driver.
 #include "app/filesavedialog.h"
 #include "ui_filesavedialog.h"
 
@@ -30,7 +31,7 @@ FileSaveDialog::~FileSaveDialog()
 QString FileSaveDialog::askFileName(
     const QString &initialPath, QString *selectedFilter, QString *format)
 {
-    // Unlike the main dialog's Save As, this one offers HTML, as its last entry.
+    // Driver contract: unlike the main dialog's Save As, this one offers HTML, as its last entry.
     const QString filters = Formats::saveAsFilterList(
         jobSettings().extensions, djvuAvailable, Formats::SaveAsOffer::SaveAsOnly);
 
@@ -73,7 +74,7 @@ bool startStep(MainWindow &window)
         name = dialog.askFileName(job.outputFolder + job.newFileName, &selectedFilter, &format);
     }
 
-    // A cancelled dialog returns nothing; the limit of 3 is this mode's own.
+    // Driver contract: a cancelled dialog returns nothing; the limit of 3 is this mode's own.
     if (name.size() < 3) {
         window.pb_cancel();
         window.close();
@@ -91,7 +92,7 @@ bool startStep(MainWindow &window)
     job.outputFolder = PathHelpers::directoryPart(name);
     job.newFileName = PathHelpers::stripExtension(PathHelpers::fileNamePart(name));
 
-    // The user key first in this mode, unlike Print and Cancel.
+    // Driver contract: the user key first in this mode, unlike Print and Cancel.
     ExchangeValues::writeSaveAsOutcome(
         SettingsScope::User, job.newFileName, job.outputFolder, format);
     if (job.allUsers)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// How one print job runs, from the command line to the exit status the driver waits for.
 #include "app/runprotocol.h"
 
 #include "app/filesavedialog.h"
@@ -49,7 +50,7 @@ void centreOnScreen(QWidget *window)
         return;
     const QRect available = screen->geometry();
     const QRect frame = window->frameGeometry();
-    // Integer division truncates toward zero, as the placement always did.
+    // Driver contract: integer division truncates toward zero.
     window->move(
         (available.right() - frame.width()) / 2, (available.bottom() - frame.height()) / 2);
 }

@@ -17,7 +17,7 @@ QString converterFileName();
 
 // The DjVu converter beside the program, derived from the first command-line word. The name is
 // searched case-sensitively; when it is not found only the last character is dropped, so the
-// converter is then not found and the DjVu format is left out. Kept as the driver expects it.
+// converter is then not found and the DjVu format is left out. Driver contract: kept as it is.
 QString converterPath(const QString &programPath);
 
 // Moves a window to the centre of the primary screen by the frame-geometry rule.

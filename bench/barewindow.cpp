@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The start-up baseline: an empty main window of the dialog's size.
 #include <QApplication>
 #include <QMainWindow>
 

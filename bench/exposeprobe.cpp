@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Ends a benchmarked program the moment its first window is on screen.
 #include <QCoreApplication>
 #include <QEvent>
 #include <QWindow>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The start-up floor of a window that shows text: one label in a main window.
 #include <QApplication>
 #include <QLabel>
 #include <QMainWindow>

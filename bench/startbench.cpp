@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The start-up benchmark: fmtask against bare and labelled windows, and loading and saving.
 #include "dialog/mainwindow.h"
 #include "settings/jobsettings.h"
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The main dialog's construction and behaviour: pages, colour modes, numbering, keys, languages.
 #include "dialog/mainwindow.h"
 #include "ui_mainwindow.h"
 
@@ -64,7 +65,8 @@ MainWindow::MainWindow(QWidget *parent)
     nameChosenByDialog = false;
 
     djvuAvailable = QFile::exists(jobSettings().converterPath);
-    // SWF is current, so removing the last page changes no page and signals nothing.
+    // Driver contract: SWF is current, so removing the last page changes no page and signals
+    // nothing.
     if (!djvuAvailable)
         ui->tabWidget->removeTab(Formats::Djvu);
 
@@ -79,7 +81,8 @@ MainWindow::~MainWindow()
 
 void MainWindow::currentChanged(int index)
 {
-    // The shared options follow the page the tab widget shows, whatever index was signalled.
+    // Driver contract: the shared options follow the page the tab widget shows, whatever index
+    // was signalled (the DjVu page is asked for as index 12).
     if (QWidget *page = ui->tabWidget->currentWidget()) {
         ui->cd_extract_text->setParent(page);
         ui->cd_extract_text->show();
@@ -93,7 +96,7 @@ void MainWindow::refillColorModes(int index)
 {
     const Formats::ColorList list = Formats::colorListFor(index, compression);
     if (list.hidden) {
-        // The colour mode chosen before stays in force for the driver.
+        // Driver contract: the colour mode chosen before stays in force on these pages.
         ui->gb_color->hide();
         return;
     }
@@ -119,7 +122,8 @@ void MainWindow::setCompression(const char *code, bool state)
 {
     if (state)
         compression = QLatin1String(code);
-    // Also a click on the checked button resets the colour list to the method's default.
+    // Driver contract: also a click on the checked button resets the colour list to the
+    // method's default.
     refillColorModes(Formats::Tiff);
 }
 
@@ -153,8 +157,9 @@ void MainWindow::rb_packbits(bool state)
     setCompression(compressionCodeOf("rb_packbits"), state);
 }
 
-// The prefix buttons read the pressed-down state, which is already released when the click is
-// signalled: clicking "Add 1" disables the custom number, clicking "Custom" enables it.
+// Driver contract: the prefix buttons read the pressed-down state, which is already released when
+// the click is signalled: clicking "Add 1" disables the custom number, clicking "Custom" enables
+// it.
 void MainWindow::rb_pefix_1()
 {
     ui->le_pr_custom->setEnabled(ui->rb_pefix_1->isDown());

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The output file of the main dialog: its name and extension, Save As, Print and Cancel.
 #include "dialog/mainwindow.h"
 #include "ui_mainwindow.h"
 
@@ -46,7 +47,8 @@ void MainWindow::selectFormat(const QString &token)
     Formats::Index filter = format->index;
     if (format->index == Formats::Djvu) {
         if (djvuAvailable) {
-            // One beyond the last page: the tab widget ignores it and the shown page stays.
+            // Driver contract: one beyond the last page: the tab widget ignores it and the shown
+            // page stays.
             page = Formats::Count;
         } else {
             page = Formats::Jpeg;
@@ -65,13 +67,14 @@ void MainWindow::pb_filename()
         fullOutputFileName(),
         Formats::saveAsFilterList(job.extensions, djvuAvailable, Formats::SaveAsOffer::MainDialog),
         &job.selectedFilter);
-    // Set even when cancelled: Print then never asks the overwrite question.
+    // Driver contract: set even when cancelled: Print then never asks the overwrite question.
     nameChosenByDialog = true;
 
     QString chosen;
     if (!result.isEmpty())
         chosen = Formats::tokenOfSaveAsFilter(
             job.selectedFilter, job.extensions, Formats::SaveAsOffer::MainDialog);
+    // Driver contract: a result of fewer than 4 characters changes nothing.
     if (result.size() < 4)
         return;
 
@@ -106,6 +109,7 @@ void MainWindow::pb_print()
         const QMessageBox::StandardButton answer = prompts.message(nullptr, tr("Vellumio"),
             name + tr(" already exists.\n") + tr("Do you want to replace it?"),
             QMessageBox::Yes | QMessageBox::No);
+        // Driver contract: only No keeps the file; a box closed otherwise counts as Yes.
         if (answer == QMessageBox::No)
             return;
     }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Loading the main dialog from a settings key and saving it back, as the settings table says.
 #include "dialog/mainwindow.h"
 #include "ui_mainwindow.h"
 

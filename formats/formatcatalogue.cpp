@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The twelve formats, their colour modes and compressions, and the Save As filter lists.
 #include "formats/formatcatalogue.h"
 
 namespace Formats {

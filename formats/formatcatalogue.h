@@ -57,8 +57,8 @@ QString fixedRtfFilter();
 // The stored file extension of every format, by index.
 using Extensions = std::array<QString, Count>;
 
-// Which Save As a filter list is for: the main dialog's leaves HTML out, the save-as-only
-// dialog's offers it last.
+// Which Save As a filter list is for. Driver contract: the main dialog's leaves HTML out, the
+// save-as-only dialog's offers it last.
 enum class SaveAsOffer { MainDialog, SaveAsOnly };
 
 // The filters of a Save As dialog joined by ";;", in their own order rather than the page order:
@@ -66,9 +66,9 @@ enum class SaveAsOffer { MainDialog, SaveAsOnly };
 // then HTML for the save-as-only dialog.
 QString saveAsFilterList(const Extensions &extensions, bool withDjvu, SaveAsOffer offer);
 
-// The token of the filter chosen in a Save As dialog; empty when no offered filter matches. RTF
-// is recognised only by its fixed text, so another RTF extension yields no format, as the driver
-// has always seen it.
+// The token of the filter chosen in a Save As dialog; empty when no offered filter matches.
+// Driver contract: RTF is recognised only by its fixed text, so another RTF extension yields no
+// format.
 QString tokenOfSaveAsFilter(const QString &filter, const Extensions &extensions, SaveAsOffer offer);
 
 // Colour modes and the colour code each one selects ("1", "8", "24g", "24").

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The folder and file-name rules of the output path.
 #include "formats/pathhelpers.h"
 
 namespace PathHelpers {

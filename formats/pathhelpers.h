@@ -25,7 +25,7 @@ QString fileNamePart(const QString &path, QChar separator = nativeSeparator());
 QString stripExtension(const QString &name);
 
 // Appends "." + extension unless the first occurrence of it sits exactly where it would end the
-// name. The first-occurrence test is kept for compatibility with the driver: a name one character
+// name. Driver contract: the first-occurrence test is kept: a name one character
 // shorter than the dotted extension is left as it is, and "a.pdf.copy.pdf" gets ".pdf" again. An
 // empty extension setting still appends the lone dot.
 QString withExtension(const QString &name, const QString &extension);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Fuzzes the path rules and password scrambling against their stated properties.
 #include "formats/pathhelpers.h"
 #include "settings/passwordscrambling.h"
 

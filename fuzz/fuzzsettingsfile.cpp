@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Fuzzes the settings file through a real dialog's loading and saving.
 #include "dialog/mainwindow.h"
 #include "settings/jobsettings.h"
 
@@ -15,8 +16,6 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-// As in the program, so that a stored style name can reach the modern style.
 
 namespace {
 

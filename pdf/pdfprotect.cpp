@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The advanced PDF dialog: document information, passwords and permissions.
 #include "pdf/pdfprotect.h"
 #include "ui_pdfprotect.h"
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The interactive message boxes and Save As dialog, replaceable by tests.
 #include "platform/prompts.h"
 
 #include <QFileDialog>

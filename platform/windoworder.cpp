@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Window order and foreground requests to the windowing system.
 #include "platform/windoworder.h"
 
 #include <QWidget>

@@ -9,9 +9,7 @@ cd "$(dirname "$0")/.."
 scripts/install-deps.sh clang libclang-rt-14-dev
 seconds="${FUZZ_SECONDS:-60}"
 
-cmake -S . -B build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-    -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_CXX_FLAGS=-fsanitize=fuzzer-no-link \
-    -DFMTASK_SANITIZE=ON -DFMTASK_FUZZ=ON -DBUILD_TESTING=OFF -DFMTASK_BUILD_BENCH=OFF >/dev/null
+cmake --preset fuzzing >/dev/null
 cmake --build build-fuzz --target fuzz_settings_file fuzz_paths_passwords -j"$(nproc)"
 
 work="$(mktemp -d)"

@@ -6,8 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 scripts/install-deps.sh
-cmake -S . -B build-asan -DCMAKE_BUILD_TYPE=RelWithDebInfo -DFMTASK_SANITIZE=ON \
-    -DFMTASK_BUILD_BENCH=OFF >/dev/null
+cmake --preset sanitizers >/dev/null
 cmake --build build-asan -j"$(nproc)"
 
 # A report makes the test program exit non-zero, so CTest counts it as a failed test.

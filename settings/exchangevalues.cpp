@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The values that tell the driver how a job ended.
 #include "settings/exchangevalues.h"
 
 #include "settings/settingskey.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The one set of job values of the process.
 #include "settings/jobsettings.h"
 
 JobSettings::JobSettings()

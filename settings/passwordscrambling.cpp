@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The reversible obfuscation of the stored passwords.
 #include "settings/passwordscrambling.h"
 
 #include <QByteArray>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// One settings key on disk: names without regard to case, owner-only and atomic writes.
 #include "settings/settingskey.h"
 
 #include <QDir>
