@@ -29,8 +29,9 @@ namespace Render {
 
 namespace {
 
-// Below this much free space a failed step is taken for a full disk.
-constexpr qint64 nearlyFull = 1 << 20;
+// Below this much free space the disk is taken for full: Ghostscript does not notice when a write
+// falls short, so a full disk shows only here.
+constexpr qint64 nearlyFull = 64 << 10;
 // A tool that runs past its limit has hung: a minute, and a minute per page.
 constexpr int secondsPerRun = 60;
 constexpr int secondsPerPage = 60;
@@ -103,7 +104,10 @@ public:
     qint64 freeBytes() const
     {
         struct statvfs info;
-        return ::fstatvfs(m_fd, &info) == 0 ? qint64(info.f_bavail) * qint64(info.f_frsize) : -1;
+        if (::fstatvfs(m_fd, &info) != 0)
+            return -1;
+        // The blocks kept for the administrator are free to a tool that runs as root.
+        return qint64(::geteuid() == 0 ? info.f_bfree : info.f_bavail) * qint64(info.f_frsize);
     }
 
     // Writes an owner-only file that did not exist.
@@ -207,12 +211,22 @@ private:
         for (const Step &step : task.steps) {
             if (m_outcome.failed())
                 return;
-            const bool done = step.isWrite ? write(step.write) : run(step.command);
+            bool done = step.isWrite ? write(step.write) : run(step.command);
+            if (done && diskFull()) {
+                failed(QString(), QByteArray());
+                done = false;
+            }
             for (const QString &file : step.removeAfter)
                 m_work.removeFile(file);
             if (!done)
                 return;
         }
+    }
+
+    bool diskFull() const
+    {
+        const qint64 free = m_work.freeBytes();
+        return free >= 0 && free < nearlyFull;
     }
 
     bool write(const Write &write)
@@ -295,8 +309,7 @@ private:
             m_outcome.fail(Failure::FolderGone,
                 QStringLiteral("The output folder disappeared while the job rendered: %1")
                     .arg(m_folder));
-        else if (errors.contains("No space left on device")
-            || (m_work.freeBytes() >= 0 && m_work.freeBytes() < nearlyFull))
+        else if (errors.contains("No space left on device") || diskFull())
             m_outcome.fail(Failure::DiskFull,
                 QStringLiteral("The output folder's disk is full: %1").arg(m_folder));
         else

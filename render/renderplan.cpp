@@ -27,6 +27,8 @@ QString number(int value)
 // Page images of the formats that show pages on screen rather than print them.
 constexpr int swfDpi = 96;
 constexpr int htmlDpi = 150;
+// pdf2djvu takes nothing coarser.
+constexpr int djvuMinimumDpi = 72;
 // Pages per Ghostscript run of a paged raster job: bounds the work folder's size and lets the
 // runs share the cores.
 constexpr int pagesPerChunk = 25;
@@ -547,7 +549,7 @@ void Planner::djvu()
 {
     const QString input = greyOnly(m_colour) ? greyPdf() : source();
     const int stageIndex = input == source() ? 0 : 1;
-    const QStringList resolutionOption {str("-q"), str("-d"), number(o.dpi)};
+    const QStringList resolutionOption {str("-q"), str("-d"), number(qMax(o.dpi, djvuMinimumDpi))};
     if (!oneFile(o.multipageDjvu)) {
         QStringList files;
         for (int page = 1; page <= m_job.pages; ++page) {

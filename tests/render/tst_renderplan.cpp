@@ -1,0 +1,294 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The pure side of rendering: file names, passwords the encryption can hold, and what every plan
+// promises whatever the options (sandboxed Ghostscript, no secret on a command line, every page
+// once).
+#include "render/filenames.h"
+#include "render/pdfsecurity.h"
+#include "render/renderplan.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Render;
+
+Q_DECLARE_METATYPE(Render::PdfPermissions)
+
+class tst_RenderPlan : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void stems_data();
+    void stems();
+    void fileNameOf_data();
+    void fileNameOf();
+    void passwordProblem_data();
+    void passwordProblem();
+    void permissions_data();
+    void permissions();
+    void infoUpdate_data();
+    void infoUpdate();
+    void everyPlan_data();
+    void everyPlan();
+};
+
+void tst_RenderPlan::stems_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<bool>("prefixFirstPage");
+    QTest::addColumn<QString>("customNumber");
+    QTest::addColumn<QStringList>("expected");
+
+    QTest::newRow("one file is never numbered") << 1 << true << "5" << QStringList {"Doc"};
+    QTest::newRow("add 1") << 3 << true << "" << QStringList {"Doc1", "Doc2", "Doc3"};
+    QTest::newRow("add 1 wins over a custom number")
+        << 2 << true << "7" << QStringList {"Doc1", "Doc2"};
+    QTest::newRow("custom keeps its width")
+        << 3 << false << "098" << QStringList {"Doc098", "Doc099", "Doc100"};
+    QTest::newRow("custom grows past its width")
+        << 2 << false << "9" << QStringList {"Doc9", "Doc10"};
+    QTest::newRow("custom longer than any integer")
+        << 2 << false << "99999999999999999999"
+        << QStringList {"Doc99999999999999999999", "Doc100000000000000000000"};
+    QTest::newRow("empty custom") << 3 << false << "" << QStringList {"Doc", "Doc2", "Doc3"};
+    QTest::newRow("custom that is no number") << 2 << false << "1a" << QStringList {"Doc", "Doc2"};
+}
+
+void tst_RenderPlan::stems()
+{
+    QFETCH(int, count);
+    QFETCH(bool, prefixFirstPage);
+    QFETCH(QString, customNumber);
+    QFETCH(QStringList, expected);
+    QCOMPARE(FileNames::stems("Doc", count, {prefixFirstPage, customNumber}), expected);
+}
+
+void tst_RenderPlan::fileNameOf_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("plain") << "Report"
+                           << "Report";
+    QTest::newRow("folders dropped") << "../../etc/passwd"
+                                     << "passwd";
+    QTest::newRow("leading dashes kept") << "--help"
+                                         << "--help";
+    QTest::newRow("control characters dropped") << "a\nb\tc"
+                                                << "abc";
+    QTest::newRow("dot dot") << "x/.."
+                             << "";
+    QTest::newRow("trailing slash") << "folder/"
+                                    << "";
+}
+
+void tst_RenderPlan::fileNameOf()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, expected);
+    QCOMPARE(FileNames::fileNameOf(name), expected);
+}
+
+void tst_RenderPlan::passwordProblem_data()
+{
+    QTest::addColumn<QString>("password");
+    QTest::addColumn<bool>("accepted");
+
+    QTest::newRow("quotes, backslash, newline") << "a\"b'c\\d\ne" << true;
+    QTest::newRow("Latin-1") << "Müßig" << true;
+    QTest::newRow("euro and ligature") << "€ﬁ" << true;
+    QTest::newRow("32 characters") << QString(32, 'x') << true;
+    QTest::newRow("33 characters") << QString(33, 'x') << false;
+    QTest::newRow("Cyrillic") << "пароль" << false;
+    QTest::newRow("CJK") << "密码" << false;
+    QTest::newRow("emoji") << "pass🙂" << false;
+    QTest::newRow("control character") << QString("a\x01") << false;
+    QTest::newRow("soft hyphen") << "a\u00ADb" << false;
+}
+
+void tst_RenderPlan::passwordProblem()
+{
+    QFETCH(QString, password);
+    QFETCH(bool, accepted);
+    QCOMPARE(PdfSecurity::passwordProblem(password).isEmpty(), accepted);
+    PdfOptions pdf;
+    pdf.protect = true;
+    pdf.ownerPassword = password;
+    Options options;
+    options.format = Formats::Pdf;
+    options.pdf = pdf;
+    QCOMPARE(makePlan(options, {"/job.pdf", 1, 1}).refusal.isEmpty(), accepted);
+}
+
+void tst_RenderPlan::permissions_data()
+{
+    QTest::addColumn<PdfPermissions>("allowed");
+    QTest::addColumn<QVariantMap>("expected");
+
+    PdfPermissions none;
+    QTest::newRow("nothing allowed")
+        << none
+        << QVariantMap {{"print", "none"}, {"modifyOther", "n"}, {"extract", "n"},
+               {"annotate", "n"}, {"form", "n"}, {"assemble", "n"}};
+    PdfPermissions lowPrint;
+    lowPrint.print = true;
+    QTest::newRow("print at low resolution") << lowPrint << QVariantMap {{"print", "low"}};
+    PdfPermissions highPrint = lowPrint;
+    highPrint.highPrint = true;
+    QTest::newRow("print at high resolution") << highPrint << QVariantMap {{"print", "full"}};
+    PdfPermissions highAlone;
+    highAlone.highPrint = true;
+    QTest::newRow("high resolution without printing")
+        << highAlone << QVariantMap {{"print", "none"}};
+    PdfPermissions rest;
+    rest.edit = rest.copy = rest.editNotes = rest.fillAndSign = rest.assemble = true;
+    QTest::newRow("the rest allowed") << rest
+                                      << QVariantMap {{"modifyOther", "y"}, {"extract", "y"},
+                                             {"annotate", "y"}, {"form", "y"}, {"assemble", "y"}};
+}
+
+void tst_RenderPlan::permissions()
+{
+    QFETCH(PdfPermissions, allowed);
+    QFETCH(QVariantMap, expected);
+    PdfOptions pdf;
+    pdf.protect = true;
+    pdf.userPassword = "u\"\\\n";
+    pdf.permissions = allowed;
+    const QJsonObject encrypt
+        = QJsonDocument::fromJson(PdfSecurity::qpdfJob("in.pdf", "out.pdf", {}, pdf))
+              .object()
+              .value("encrypt")
+              .toObject();
+    QCOMPARE(encrypt.value("userPassword").toString(), pdf.userPassword);
+    const QJsonObject bits = encrypt.value("128bit").toObject();
+    QCOMPARE(bits.value("useAes").toString(), "y");
+    for (auto it = expected.cbegin(); it != expected.cend(); ++it)
+        QCOMPARE(bits.value(it.key()).toString(), it.value().toString());
+}
+
+void tst_RenderPlan::infoUpdate_data()
+{
+    QTest::addColumn<QByteArray>("trailer");
+    QTest::addColumn<QString>("infoObject");
+
+    QTest::newRow("replaces the file's information")
+        << QByteArray(R"({"qpdf":[{"jsonversion":2,"maxobjectid":21},)"
+                      R"({"trailer":{"value":{"/Info":"2 0 R","/Root":"1 0 R","/Size":22}}}]})")
+        << "obj:2 0 R";
+    QTest::newRow("adds information where there was none")
+        << QByteArray(R"({"qpdf":[{"jsonversion":2,"maxobjectid":23},)"
+                      R"({"trailer":{"value":{"/Root":"1 0 R","/Size":24}}}]})")
+        << "obj:24 0 R";
+    QTest::newRow("no trailer") << QByteArray("qpdf: damaged") << "";
+}
+
+void tst_RenderPlan::infoUpdate()
+{
+    QFETCH(QByteArray, trailer);
+    QFETCH(QString, infoObject);
+    PdfOptions pdf;
+    pdf.title = "Tï \"quoted\" Жук";
+    pdf.producer = "Vellumio";
+    QString error;
+    const QByteArray update
+        = PdfSecurity::infoUpdate(trailer, pdf, QDateTime::currentDateTime(), &error);
+    QCOMPARE(update.isEmpty(), infoObject.isEmpty());
+    if (infoObject.isEmpty())
+        return;
+    const QJsonObject objects
+        = QJsonDocument::fromJson(update).object().value("qpdf")[1].toObject();
+    const QJsonObject info = objects.value(infoObject)["value"].toObject();
+    QCOMPARE(info.value("/Title").toString(), "u:" + pdf.title);
+    QCOMPARE(info.value("/Producer").toString(), "u:Vellumio");
+    QCOMPARE(objects.value("trailer")["value"]["/Info"].toString(), infoObject.mid(4));
+    QCOMPARE(objects.value("trailer")["value"]["/Root"].toString(), "1 0 R");
+}
+
+void tst_RenderPlan::everyPlan_data()
+{
+    QTest::addColumn<int>("format");
+    QTest::addColumn<bool>("multipage");
+    QTest::addColumn<int>("pages");
+    QTest::addColumn<int>("parallel");
+
+    for (const Formats::Format &format : Formats::all()) {
+        for (bool multipage : {true, false}) {
+            QTest::addRow(
+                "%s %s, 57 pages, 2 cores", format.token, multipage ? "one file" : "split")
+                << int(format.index) << multipage << 57 << 2;
+        }
+        QTest::addRow("%s, 1 page, 1 core", format.token) << int(format.index) << true << 1 << 1;
+    }
+}
+
+// Whatever the options: Ghostscript sandboxed, no shell, no secret on a command line, every page
+// rendered exactly once, and one output per page unless one file is asked for.
+void tst_RenderPlan::everyPlan()
+{
+    QFETCH(int, format);
+    QFETCH(bool, multipage);
+    QFETCH(int, pages);
+    QFETCH(int, parallel);
+    const QString secret = "s3cr3t-Pass";
+    Options options;
+    options.format = Formats::Index(format);
+    options.name = "Doc";
+    options.multipageTiff = options.multipageSwf = options.multipagePdf = options.multipageHtm
+        = options.multipageDjvu = multipage;
+    options.pdf = {"T", "A", "S", "K", "C", "P", true, secret, secret + "o", {}};
+    options.swfPassword = secret;
+    options.extractText = true;
+
+    for (const char *colour : {"1", "8", "24g", "24"}) {
+        for (const char *compression : {"LZW", "G4", "G3", "JPEG", "ZIP", "PACKBITS"}) {
+            options.colorCode = colour;
+            options.compression = compression;
+            const Plan plan = makePlan(options, {"/spool/job.pdf", pages, parallel});
+            QVERIFY(plan.refusal.isEmpty());
+            QList<int> rendered(pages + 1, 0);
+            static const QRegularExpression first("^-dFirstPage=(\\d+)$"),
+                last("^-dLastPage=(\\d+)$");
+            for (const Stage &stage : plan.stages) {
+                for (const Task &task : stage.tasks) {
+                    for (const Step &step : task.steps) {
+                        const Command &command = step.command;
+                        QVERIFY2(!command.arguments.join(' ').contains(secret),
+                            qPrintable(command.program));
+                        QVERIFY(!QStringList({"sh", "bash", "env"}).contains(command.program));
+                        if (command.program != "gs")
+                            continue;
+                        for (const char *flag : {"-dSAFER", "-dBATCH", "-dNOPAUSE"})
+                            QVERIFY(command.arguments.contains(flag));
+                        int from = 1, to = pages;
+                        for (const QString &argument : command.arguments) {
+                            if (first.match(argument).hasMatch())
+                                from = first.match(argument).captured(1).toInt();
+                            if (last.match(argument).hasMatch())
+                                to = last.match(argument).captured(1).toInt();
+                        }
+                        if (command.arguments.last() == "/spool/job.pdf")
+                            for (int page = from; page <= to; ++page)
+                                ++rendered[page];
+                    }
+                }
+            }
+            if (rendered.mid(1).contains(1) || rendered.mid(1).contains(2))
+                QCOMPARE(rendered.mid(1), QList<int>(pages, 1));
+
+            // RTF and MS Excel are one document; the image formats are one file per page.
+            const bool oneFile = pages == 1 || format == Formats::Rtf || format == Formats::Excel
+                || (multipage && format != Formats::Bmp && format != Formats::Png
+                    && format != Formats::Jpeg && format != Formats::Jpeg2000
+                    && format != Formats::Gif);
+            QCOMPARE(plan.outputs.size(), (oneFile ? 1 : pages) + 1);
+            QCOMPARE(plan.outputs.last().fileName, "Doc.txt");
+            QCOMPARE(plan.outputs.first().fileName, "Doc." + options.extension());
+        }
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_RenderPlan)
+#include "tst_renderplan.moc"
