@@ -2,6 +2,7 @@
 #ifndef FMTASK_TESTS_OPENWINDOW_H
 #define FMTASK_TESTS_OPENWINDOW_H
 
+#include "tests/support/findwidget.h"
 #include "tests/support/jobfixture.h"
 #include "tests/support/scriptedprompts.h"
 
@@ -16,13 +17,11 @@ struct OpenWindow
         : window(job.createWindow(converter))
     { }
 
+    // A missing part fails the running test, naming it (see findWidget).
     template<class T = QWidget>
     T *part(const char *name) const
     {
-        T *found = window->findChild<T *>(QLatin1String(name));
-        if (!found)
-            qFatal("no widget %s", name);
-        return found;
+        return findWidget<T>(window.get(), QLatin1String(name));
     }
     QTabWidget *tabs() const { return part<QTabWidget>("tabWidget"); }
     QLineEdit *fileName() const { return part<QLineEdit>("le_filename"); }
