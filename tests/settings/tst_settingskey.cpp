@@ -6,10 +6,10 @@
 #include <QTest>
 #include <QtCore>
 
-// The password scrambling through the store, against real files in a temporary folder. Names
-// without regard to case are the load-and-save suite's, the owner-only mode the security suite's.
-// The abort writes are proven by the Print suite's cancel test, the save-as order by the
-// save-as-only suite.
+// The password scrambling through the store, and the one spelling a write leaves, against real
+// files in a temporary folder. Reading names without regard to case is the load-and-save suite's,
+// the owner-only mode the security suite's. The abort writes are proven by the Print suite's
+// cancel test, the save-as order by the save-as-only suite.
 class tst_SettingsKey : public QObject
 {
     Q_OBJECT
@@ -58,6 +58,31 @@ private slots:
         QCOMPARE(unscramblePassword(stored), expected);
         // Fillers are dropped unchecked; an odd last character is kept.
         QCOMPARE(unscramblePassword(stored + 'z'), expected + 'z');
+    }
+
+    // A file edited by hand may hold a name in several spellings; a write replaces them all, so
+    // that the driver, reading without regard to case, finds the one value just written.
+    void writeLeavesOneSpelling_data()
+    {
+        QTest::addColumn<QByteArray>("stored");
+        QTest::addColumn<QStringList>("names"); // in the file after writing "Path"
+        QTest::newRow("two other spellings")
+            << QByteArray("PATH=/a/\npAtH=/b/\nformat=png\n") << QStringList {"Path", "format"};
+        QTest::newRow("the same and another")
+            << QByteArray("Path=/a/\npath=/b/\n") << QStringList {"Path"};
+        QTest::newRow("none") << QByteArray("format=png\n") << QStringList {"Path", "format"};
+    }
+    void writeLeavesOneSpelling()
+    {
+        QFETCH(QByteArray, stored);
+        QFETCH(QStringList, names);
+        m_job->writeFile(m_job->userFile(), stored);
+        SettingsKey(SettingsScope::User).setText(Settings::PathWritten, "/new/");
+        const QSettings file(m_job->userFile(), QSettings::IniFormat);
+        QStringList found = file.allKeys();
+        found.sort();
+        QCOMPARE(found, names);
+        QCOMPARE(file.value("Path").toString(), "/new/");
     }
 
 private:
