@@ -1,165 +1,434 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "formats/formatcatalogue.h"
+// The main window's form and behaviour: pages, colour lists, compression, the custom number, keys,
+// language and window order.
 #include "tests/support/markingtranslator.h"
 #include "tests/support/openwindow.h"
+#include "tests/support/typedtext.h"
 #include "ui_mainwindow.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QKeyEvent>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 
 namespace {
 
-// "name class parent x,y wxh[ | text]" of a widget as the form builds it.
-QString describe(const QWidget *w, bool withText)
+// What the colour group shows: its items, the current one and the colour code kept; whether the
+// group is shown and the list enabled.
+struct Colours
 {
-    const QRect g = w->geometry();
-    const QVariant text = w->property(w->property("text").isValid() ? "text" : "title");
-    return QString::asprintf("%s %s %s %d,%d %dx%d", qPrintable(w->objectName()),
-               w->metaObject()->className(), qPrintable(w->parentWidget()->objectName()), g.x(),
-               g.y(), g.width(), g.height())
-        + (withText ? " | " + text.toString() : QString());
+    QStringList items;
+    QString current;
+    QString code;
+    bool shown = true;
+    bool enabled = true;
+
+    bool operator==(const Colours &other) const
+    {
+        return items == other.items && current == other.current && code == other.code
+            && shown == other.shown && enabled == other.enabled;
+    }
+};
+
+char *toString(const Colours &colours)
+{
+    return qstrdup(
+        qPrintable(QStringLiteral("%1 > %2 = %3%4%5")
+                       .arg(colours.items.join(", "), colours.current, colours.code,
+                           colours.shown ? "" : ", hidden", colours.enabled ? "" : ", disabled")));
 }
 
-// The window's main blocks, and the texts with deliberate blanks, quotes or wording, where the
-// form builds them.
-// clang-format off
-const char *const tree[] = {
-    "groupBox_2 QGroupBox centralWidget 10,10 471x101", "groupBox_3 QGroupBox centralWidget 10,120 471x91", "tabWidget QTabWidget centralWidget 10,230 471x191",
-    "pb_print QPushButton centralWidget 310,450 83x25", "cd_dialog QCheckBox centralWidget 10,450 171x24", "le_filename QLineEdit groupBox_2 10,60 411x20",
-    // with the text shown, where it has deliberate blanks, quotes or wording
-    "pb_cancel QPushButton centralWidget 400,450 83x25 | Cancel Print",
-    "rb_pefix_1 QRadioButton groupBox_2 10,20 211x24 | Add \"1\" to first file name",
-    "le_pr_custom QLineEdit groupBox_2 340,20 101x20 | 1",
-    "ch_email QCheckBox groupBox_3 20,50 111x24 | Send to EMail",
-    "label_9 QLabel tab_4 10,40 151x18 | Quality of Image compression ",
-    "label_11 QLabel tab_2 10,40 151x18 | Quality of image ",
-    "ch_swf_protect QGroupBox tab_2 290,40 141x61 |  Protect SWF",
-    "label_17 QLabel tab_11 10,40 121x18 | Quality of Image  ",
-    "label_16 QLabel tab_12 10,10 171x18 | Print As MS Office  Excel",
-};
-// clang-format on
+const QStringList allModes = {"Monochrome", "256 colors", "Grayscale", "TrueColor"};
+const QStringList gifModes = {"Monochrome", "256 colors", "Grayscale"};
+const QStringList twoModes = {"Grayscale", "TrueColor"};
 
 } // namespace
 
-// The main window's form and behaviour: pages, colour lists, compression, the custom number, keys,
-// language.
-class MainWindowTest : public QObject
+Q_DECLARE_METATYPE(Colours)
+
+class tst_MainWindow : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void cleanup() { translator.reset(), w.reset(); }
-    // The form as its build operation leaves it, before any behaviour or loading.
+    void cleanup() { w.reset(); }
+
+    // The form as its build operation leaves it: the main blocks, and the texts with deliberate
+    // blanks, quotes or wording.
+    void form_data()
+    {
+        QTest::addColumn<QString>("className");
+        QTest::addColumn<QString>("parent");
+        QTest::addColumn<QRect>("geometry");
+        QTest::addColumn<QString>("text"); // text or title; null: none
+        // clang-format off
+        QTest::newRow("groupBox_2")      << "QGroupBox"    << "centralWidget" << QRect(10, 10, 471, 101)  << "File Name";
+        QTest::newRow("groupBox_3")      << "QGroupBox"    << "centralWidget" << QRect(10, 120, 471, 91)  << "Enabled";
+        QTest::newRow("tabWidget")       << "QTabWidget"   << "centralWidget" << QRect(10, 230, 471, 191) << QString();
+        QTest::newRow("pb_print")        << "QPushButton"  << "centralWidget" << QRect(310, 450, 83, 25)  << "Print";
+        QTest::newRow("pb_cancel")       << "QPushButton"  << "centralWidget" << QRect(400, 450, 83, 25)  << "Cancel Print";
+        QTest::newRow("cd_dialog")       << "QCheckBox"    << "centralWidget" << QRect(10, 450, 171, 24)  << "Show this dialog next time";
+        QTest::newRow("le_filename")     << "QLineEdit"    << "groupBox_2"    << QRect(10, 60, 411, 20)   << "";
+        QTest::newRow("rb_pefix_1")      << "QRadioButton" << "groupBox_2"    << QRect(10, 20, 211, 24)   << "Add \"1\" to first file name";
+        QTest::newRow("le_pr_custom")    << "QLineEdit"    << "groupBox_2"    << QRect(340, 20, 101, 20)  << "1";
+        QTest::newRow("ch_email")        << "QCheckBox"    << "groupBox_3"    << QRect(20, 50, 111, 24)   << "Send to EMail";
+        QTest::newRow("label_9")         << "QLabel"       << "tab_4"         << QRect(10, 40, 151, 18)   << "Quality of Image compression ";
+        QTest::newRow("label_11")        << "QLabel"       << "tab_2"         << QRect(10, 40, 151, 18)   << "Quality of image ";
+        QTest::newRow("ch_swf_protect")  << "QGroupBox"    << "tab_2"         << QRect(290, 40, 141, 61)  << " Protect SWF";
+        QTest::newRow("label_17")        << "QLabel"       << "tab_11"        << QRect(10, 40, 121, 18)   << "Quality of Image  ";
+        QTest::newRow("label_16")        << "QLabel"       << "tab_12"        << QRect(10, 10, 171, 18)   << "Print As MS Office  Excel";
+        // clang-format on
+    }
     void form()
+    {
+        QFETCH(QString, className);
+        QFETCH(QString, parent);
+        QFETCH(QRect, geometry);
+        QFETCH(QString, text);
+        QMainWindow host;
+        Ui::MainWindow ui;
+        ui.setupUi(&host);
+        const QWidget *widget = findWidget(&host, QTest::currentDataTag());
+        QCOMPARE(widget->metaObject()->className(), className);
+        QCOMPARE(widget->parentWidget()->objectName(), parent);
+        QCOMPARE(widget->geometry(), geometry);
+        QCOMPARE(widget->property(widget->property("text").isValid() ? "text" : "title").toString(),
+            text);
+    }
+
+    // The window as a whole: fixed size, title, SWF current with the form's own colour list, and
+    // the blocks raised in their order (raising moves a widget to the end of the children).
+    void formWindow()
     {
         QMainWindow host;
         Ui::MainWindow ui;
         ui.setupUi(&host);
-        QCOMPARE(QList<QSize>({host.minimumSize(), host.maximumSize()}),
-            QList<QSize>(2, QSize(494, 503)));
-        QCOMPARE(host.windowTitle(), QStringLiteral("Vellumio"));
-
-        for (const char *row : tree) {
-            const QString expected = QString::fromLatin1(row);
-            const QWidget *widget = host.findChild<QWidget *>(expected.section(' ', 0, 0));
-            QVERIFY2(widget, row);
-            QCOMPARE(describe(widget, expected.contains(" | ")), expected);
-        }
-        // The page order is checked against the formats by the window's tests.
+        QCOMPARE(host.minimumSize(), QSize(494, 503));
+        QCOMPARE(host.maximumSize(), QSize(494, 503));
+        QCOMPARE(host.windowTitle(), "Vellumio");
         QCOMPARE(ui.tabWidget->currentIndex(), 6);
-        QCOMPARE(ui.cb_combobox->currentText() + ',' + ui.cb_combobox->itemText(1)
-                + QString::number(ui.cb_combobox->count()),
-            QStringLiteral("TrueColor,Grayscale2"));
-
-        // Raising moves a widget to the end of its parent's children: this is the z-order.
+        QCOMPARE(items(ui.cb_combobox), QStringList({"TrueColor", "Grayscale"}));
+        QCOMPARE(ui.cb_combobox->currentText(), "TrueColor");
         QStringList order;
         for (const QObject *child : host.centralWidget()->children())
             order << child->objectName();
-        QCOMPARE(order.join(' '),
-            QStringLiteral("groupBox_2 groupBox_3 pb_print pb_cancel cd_dialog tabWidget"));
+        QCOMPARE(order,
+            QStringList(
+                {"groupBox_2", "groupBox_3", "pb_print", "pb_cancel", "cd_dialog", "tabWidget"}));
     }
 
-    void djvuPage()
+    // Every page at its index with its text; without the converter the DjVu page is gone and the
+    // others keep their texts, which are set by page.
+    void pages_data()
     {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("tabText");
+        // clang-format off
+        QTest::newRow("tab")    << 0  << "BMP";
+        QTest::newRow("tab_3")  << 1  << "PNG";
+        QTest::newRow("tab_4")  << 2  << "JPEG";
+        QTest::newRow("tab_9")  << 3  << "JP2";
+        QTest::newRow("tab_6")  << 4  << "TIFF";
+        QTest::newRow("tab_5")  << 5  << "GIF";
+        QTest::newRow("tab_2")  << 6  << "SWF";
+        QTest::newRow("tab_7")  << 7  << "PDF";
+        QTest::newRow("tab_8")  << 8  << "RTF";
+        QTest::newRow("tab_12") << 9  << "XLS";
+        QTest::newRow("tab_11") << 10 << "HTML";
+        QTest::newRow("tab_10") << 11 << "DjVu";
+        // clang-format on
+    }
+    void pages()
+    {
+        QFETCH(int, index);
+        QFETCH(QString, tabText);
         for (const bool converter : {true, false}) {
             open(converter);
-            QCOMPARE(tabs->count(), converter ? 12 : 11);
-            // Tab texts are set by page, so every remaining page keeps its own text.
-            for (const Formats::Format &format : Formats::all()) {
-                const bool gone = format.index == Formats::Djvu && !converter;
-                const int index = tabs->indexOf(w->part(format.page));
-                QCOMPARE(index, gone ? -1 : int(format.index));
-                QCOMPARE(tabs->tabText(index), gone ? QString() : QLatin1String(format.tabText));
-            }
+            QCOMPARE(w->tabs()->count(), converter ? 12 : 11);
+            const int at = w->tabs()->indexOf(w->part(QTest::currentDataTag()));
+            const bool gone = !converter && tabText == "DjVu";
+            QCOMPARE(at, gone ? -1 : index);
+            QCOMPARE(w->tabs()->tabText(at), gone ? QString() : tabText);
         }
     }
 
-    void steps_data()
+    // Entering each page refills the colour list for it, after a colour was picked on the page
+    // before; RTF and MS Excel hide it and keep that page's list and code. The shared widgets
+    // follow the page, at the same place.
+    void colourListOfEveryPage_data()
     {
-        // steps as run() takes them, then what state() shows: the colour list, "custom" the
-        // custom number, "key" whether Print ran
-        QTest::addColumn<QString>("steps");
-        QTest::addColumn<QString>("state");
-        const QString all = QStringLiteral("Monochrome,256 colors,Grayscale,TrueColor > ");
-        const QString gt = QStringLiteral("Grayscale,TrueColor > ");
-        const QString gif = QStringLiteral("Monochrome,256 colors,Grayscale > ");
+        QTest::addColumn<int>("from");
+        QTest::addColumn<QString>("picked"); // on the page before; empty: none
+        QTest::addColumn<int>("page");
+        QTest::addColumn<Colours>("colours");
         // clang-format off
-        QTest::newRow("RTF to PNG")              << "8 1"                    << all + "TrueColor = 24";
-        QTest::newRow("BMP to JPEG")             << "0 2"                    << gt + "TrueColor = 24";
-        QTest::newRow("GIF: no TrueColor")       << "0 5"                    << gif + "256 colors = 8";
-        QTest::newRow("GIF Grayscale to PDF")    << "5 =Grayscale 7"         << gt + "TrueColor = 24";
-        QTest::newRow("GIF to RTF keeps list")   << "5 8"                    << "hidden " + gif + "256 colors = 8";
-        QTest::newRow("JPEG Grayscale to RTF")   << "2 =Grayscale 8"         << "hidden " + gt + "Grayscale = 24g";
-        QTest::newRow("Monochrome to XLS")       << "1 =Monochrome 9"        << "hidden " + all + "Monochrome = 1";
-        QTest::newRow("FAX4")                    << "4 rb_1 rb_2"            << "Monochrome > Monochrome disabled = 1";
-        QTest::newRow("FAX3")                    << "4 rb_1 rb_3"            << "Monochrome > Monochrome disabled = 1";
-        QTest::newRow("LZW after FAX4")          << "4 rb_2 rb_1"            << all + "TrueColor = 24";
-        QTest::newRow("JPEG after FAX3")         << "4 rb_3 rb_4"            << gt + "TrueColor = 24";
-        QTest::newRow("FAX4 checked from code")  << "4 rb_1 set:rb_2"        << all + "TrueColor = 24";
-        QTest::newRow("PACKBITS after JPEG")     << "4 rb_4 rb_packbits"     << all + "TrueColor = 24";
-        QTest::newRow("LZW clicked again")       << "4 rb_1 =Grayscale rb_1" << all + "TrueColor = 24";
-        // A text the list does not know (as it reports while cleared) keeps the colour code.
-        QTest::newRow("unknown colour texts")    << "5 ?Sepia ?grayscale ?"  << gif + "256 colors = 8";
-        // The custom number field follows the prefix buttons' clicks, not their checked state.
-        QTest::newRow("Custom")                  << "rb_pefix_custom"                 << "custom on ";
-        QTest::newRow("Add 1 after Custom")      << "rb_pefix_custom rb_pefix_1"      << "custom off ";
-        QTest::newRow("Add 1 checked from code") << "rb_pefix_custom set:rb_pefix_1"  << "custom on ";
-        // Only ASCII digits get in, typed key by key or pasted; the value follows the field.
-        QTest::newRow("digit typed")             << "rb_pefix_custom paste:12 type:3"       << "custom on 123";
-        QTest::newRow("Arabic-Indic three")      << "rb_pefix_custom paste:12 type:\u0663" << "custom on 12";
-        QTest::newRow("12a pasted")              << "rb_pefix_custom paste:12 paste:12a"    << "custom on 12";
-        // Return and Enter print wherever they are typed (the file's folder is missing, so Print
-        // stops at its first message); other keys do nothing.
-        QTest::newRow("keypad Enter")            << "key::Enter"              << "key printed";
-        QTest::newRow("Return in file name")     << "key:le_filename:Return"  << "key printed";
-        QTest::newRow("Return on Cancel Print")  << "key:pb_cancel:Return"    << "key printed";
-        // A language installed at run time changes only the words, not the file, number or colour.
-        QTest::newRow("language: words")         << "5 =Grayscale rb_pefix_custom paste:42 lang" << "words ~Vellumio ~Print ~XLS11";
-        QTest::newRow("language: number")        << "5 =Grayscale rb_pefix_custom paste:42 lang" << "custom on 42";
-        QTest::newRow("language: colour")        << "5 =Grayscale rb_pefix_custom paste:42 lang" << gif + "Grayscale = 24g";
-        QTest::newRow("Escape")                  << "key::Esc"                << "key ignored topmost";
+        QTest::newRow("BMP")      << 5 << "" << 0  << Colours{allModes, "TrueColor", "24"};
+        QTest::newRow("PNG")      << 8 << "" << 1  << Colours{allModes, "TrueColor", "24"};
+        QTest::newRow("JPEG")     << 5 << "" << 2  << Colours{twoModes, "TrueColor", "24"};
+        QTest::newRow("JPEG2000") << 5 << "" << 3  << Colours{twoModes, "TrueColor", "24"};
+        QTest::newRow("TIFF LZW") << 5 << "" << 4  << Colours{allModes, "TrueColor", "24"};
+        QTest::newRow("GIF")      << 0 << "" << 5  << Colours{gifModes, "256 colors", "8"};
+        QTest::newRow("SWF")      << 5 << "" << 6  << Colours{twoModes, "TrueColor", "24"};
+        QTest::newRow("PDF")      << 5 << "Grayscale" << 7 << Colours{twoModes, "TrueColor", "24"};
+        QTest::newRow("RTF")      << 2 << "Grayscale" << 8 << Colours{twoModes, "Grayscale", "24g", false};
+        QTest::newRow("MS Excel") << 1 << "Monochrome" << 9 << Colours{allModes, "Monochrome", "1", false};
+        QTest::newRow("HTML")     << 5 << "" << 10 << Colours{twoModes, "TrueColor", "24"};
+        QTest::newRow("DjVu")     << 5 << "" << 11 << Colours{twoModes, "TrueColor", "24"};
         // clang-format on
     }
-    void steps()
+    void colourListOfEveryPage()
     {
-        QFETCH(QString, steps);
-        QFETCH(QString, state);
-        open(!steps.endsWith("lang")); // the language must not bring back the missing DjVu page
-        run(steps);
-        QCOMPARE(this->state(state.section(' ', 0, 0)), state);
-        // The shared widgets sit on the current page, at the same place.
-        const auto place = [this](const char *name) {
-            QWidget *shared = w->part(name);
-            return shared->parentWidget() == tabs->currentWidget() ? shared->geometry() : QRect();
-        };
-        QCOMPARE(place("cd_extract_text"), QRect(10, 130, 171, 24));
-        QCOMPARE(place("gb_color"), QRect(290, 110, 141, 51));
+        QFETCH(int, from);
+        QFETCH(QString, picked);
+        QFETCH(int, page);
+        QFETCH(Colours, colours);
+        open(true);
+        w->tabs()->setCurrentIndex(from);
+        if (!picked.isEmpty())
+            w->part<QComboBox>("cb_combobox")->setCurrentText(picked);
+        w->tabs()->setCurrentIndex(page);
+        QCOMPARE(coloursShown(), colours);
+        for (const auto &[name, place] : {std::pair("cd_extract_text", QRect(10, 130, 171, 24)),
+                 std::pair("gb_color", QRect(290, 110, 141, 51))}) {
+            QCOMPARE(w->part(name)->parentWidget(), w->tabs()->currentWidget());
+            QCOMPARE(w->part(name)->geometry(), place);
+        }
         QVERIFY(w->part("cd_extract_text")->isVisible());
+    }
+
+    // The TIFF compression buttons, clicked with the mouse: each click refills the list for its
+    // method, also on the button already checked; checking one by code runs nothing.
+    void compression_data()
+    {
+        QTest::addColumn<QStringList>("clicked");
+        QTest::addColumn<QString>("picked"); // colour chosen then; empty: none
+        QTest::addColumn<QStringList>("thenClicked");
+        QTest::addColumn<QString>("checkedByCode"); // at the end; empty: none
+        QTest::addColumn<Colours>("colours");
+        const Colours mono {{"Monochrome"}, "Monochrome", "1", true, false};
+        const Colours trueColor {allModes, "TrueColor", "24"};
+        // clang-format off
+        QTest::newRow("FAX4")                 << QStringList{"rb_1", "rb_2"}   << "" << QStringList() << "" << mono;
+        QTest::newRow("FAX3")                 << QStringList{"rb_1", "rb_3"}   << "" << QStringList() << "" << mono;
+        QTest::newRow("LZW after FAX4")       << QStringList{"rb_2", "rb_1"}   << "" << QStringList() << "" << trueColor;
+        QTest::newRow("JPEG after FAX3")      << QStringList{"rb_3", "rb_4"}   << "" << QStringList() << "" << Colours{twoModes, "TrueColor", "24"};
+        QTest::newRow("ZIP after FAX3")       << QStringList{"rb_3", "rb_zip"} << "" << QStringList() << "" << trueColor;
+        QTest::newRow("PACKBITS after JPEG")  << QStringList{"rb_4", "rb_packbits"} << "" << QStringList() << "" << trueColor;
+        QTest::newRow("FAX4 checked by code") << QStringList{"rb_1"} << ""          << QStringList()       << "rb_2" << trueColor;
+        QTest::newRow("LZW clicked again")    << QStringList{"rb_1"} << "Grayscale" << QStringList{"rb_1"} << ""     << trueColor;
+        // clang-format on
+    }
+    void compression()
+    {
+        QFETCH(QStringList, clicked);
+        QFETCH(QString, picked);
+        QFETCH(QStringList, thenClicked);
+        QFETCH(QString, checkedByCode);
+        QFETCH(Colours, colours);
+        open(true);
+        w->tabs()->setCurrentIndex(4);
+        for (const QString &name : clicked)
+            QTest::mouseClick(w->part<QRadioButton>(name.toLatin1()), Qt::LeftButton);
+        if (!picked.isEmpty())
+            w->part<QComboBox>("cb_combobox")->setCurrentText(picked);
+        for (const QString &name : thenClicked)
+            QTest::mouseClick(w->part<QRadioButton>(name.toLatin1()), Qt::LeftButton);
+        if (!checkedByCode.isEmpty())
+            w->part<QRadioButton>(checkedByCode.toLatin1())->setChecked(true);
+        QCOMPARE(coloursShown(), colours);
+    }
+
+    // A text the colour list does not know, as it reports the empty text while it is cleared,
+    // keeps the colour code.
+    void unknownColourText_data()
+    {
+        QTest::addColumn<QString>("reported");
+        QTest::newRow("Sepia") << "Sepia";
+        QTest::newRow("grayscale") << "grayscale";
+        QTest::newRow("empty") << "";
+    }
+    void unknownColourText()
+    {
+        QFETCH(QString, reported);
+        open(true);
+        w->tabs()->setCurrentIndex(5);
+        w->window->cb_combobox_currentIndexChanged(reported);
+        QCOMPARE(jobSettings().colorCode, "8");
+    }
+
+    // The custom number field follows the prefix buttons' clicks, not their checked state.
+    void prefixButtons_data()
+    {
+        QTest::addColumn<QStringList>("clicked");
+        QTest::addColumn<QString>("checkedByCode"); // afterwards; empty: none
+        QTest::addColumn<bool>("enabled");
+        QTest::newRow("Custom") << QStringList {"rb_pefix_custom"} << "" << true;
+        QTest::newRow("Add 1 after Custom")
+            << QStringList {"rb_pefix_custom", "rb_pefix_1"} << "" << false;
+        QTest::newRow("Add 1 checked by code")
+            << QStringList {"rb_pefix_custom"} << "rb_pefix_1" << true;
+    }
+    void prefixButtons()
+    {
+        QFETCH(QStringList, clicked);
+        QFETCH(QString, checkedByCode);
+        QFETCH(bool, enabled);
+        open(true);
+        for (const QString &name : clicked)
+            QTest::mouseClick(w->part<QRadioButton>(name.toLatin1()), Qt::LeftButton);
+        if (!checkedByCode.isEmpty())
+            w->part<QRadioButton>(checkedByCode.toLatin1())->setChecked(true);
+        QCOMPARE(w->part("le_pr_custom")->isEnabled(), enabled);
+    }
+
+    // Only the ASCII digits get into the custom number, typed key by key or pasted; anything
+    // else brings back the number before, and the value follows the field.
+    void customNumber_data()
+    {
+        QTest::addColumn<QString>("before"); // the number accepted before
+        QTest::addColumn<QString>("pasted"); // over the whole field; null: nothing
+        QTest::addColumn<QTestEventList>("typed"); // at the end of the field
+        QTest::addColumn<QString>("shown");
+        for (const char digit : QByteArray("0123456789"))
+            QTest::addRow("digit %c", digit)
+                << QString("7") << QString() << typedText(QString(QLatin1Char(digit)))
+                << QString("7") + digit;
+        // clang-format off
+        QTest::newRow("letter")             << "7"  << QString() << typedText("a")      << "7";
+        QTest::newRow("Arabic-Indic three") << "7"  << QString() << typedText("\u0663") << "7";
+        QTest::newRow("fullwidth five")     << "7"  << QString() << typedText("\uff15") << "7";
+        QTest::newRow("superscript two")    << "7"  << QString() << typedText("\u00b2") << "7";
+        QTest::newRow("minus")              << "7"  << QString() << typedText("-")      << "7";
+        QTest::newRow("12a pasted")         << "12" << "12a"     << typedText("")       << "12";
+        QTest::newRow("cleared")            << "12" << ""        << typedText("")       << "";
+        QTest::newRow("typed after clear")  << "12" << ""        << typedText("05")     << "05";
+        // clang-format on
+    }
+    void customNumber()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, pasted);
+        QFETCH(QTestEventList, typed);
+        QFETCH(QString, shown);
+        open(true);
+        auto *custom = w->part<QLineEdit>("le_pr_custom");
+        custom->setText(before);
+        if (!pasted.isNull()) {
+            custom->selectAll();
+            custom->insert(pasted);
+        }
+        custom->end(false);
+        typed.simulate(custom);
+        QCOMPARE(custom->text(), shown);
+        QCOMPARE(jobSettings().customNumber, shown);
+    }
+
+    // Return and the keypad's Enter print wherever they are typed (the folder is missing, so
+    // Print stops at its first message); other keys do nothing.
+    void keys_data()
+    {
+        QTest::addColumn<QString>("target"); // object name; empty: the window
+        QTest::addColumn<QTestEventList>("keys");
+        QTest::addColumn<bool>("prints");
+        QTestEventList enter, returnKey, escape;
+        enter.addKeyClick(Qt::Key_Enter, Qt::KeypadModifier);
+        returnKey.addKeyClick(Qt::Key_Return);
+        escape.addKeyClick(Qt::Key_Escape);
+        QTest::newRow("keypad Enter") << "" << enter << true;
+        QTest::newRow("Return in file name") << "le_filename" << returnKey << true;
+        QTest::newRow("Return on Cancel Print") << "pb_cancel" << returnKey << true;
+        QTest::newRow("Escape") << "" << escape << false;
+    }
+    void keys()
+    {
+        QFETCH(QString, target);
+        QFETCH(QTestEventList, keys);
+        QFETCH(bool, prints);
+        open(true);
+        w->fileName()->setText(w->job.path("missing/out"));
+        WindowOrder::setTopmost(w->window.get());
+        keys.simulate(target.isEmpty() ? w->window.get() : w->part(target.toLatin1()));
+        QCOMPARE(w->prompts.questions.size(), prints ? 1 : 0);
+        QCOMPARE(w->window->isVisible(), true);
+        QCOMPARE(WindowOrder::isTopmost(w->window.get()), !prints);
+    }
+
+    // A language installed at run time changes the words, not the file name, the number, the
+    // colour or the missing DjVu page.
+    void language()
+    {
+        open(false);
+        w->tabs()->setCurrentIndex(5);
+        w->part<QComboBox>("cb_combobox")->setCurrentText("Grayscale");
+        QTest::mouseClick(w->part<QRadioButton>("rb_pefix_custom"), Qt::LeftButton);
+        w->part<QLineEdit>("le_pr_custom")->setText("42");
+        w->fileName()->setText("/out/Document1");
+        MarkingTranslator translator("MainWindow");
+        QCoreApplication::installTranslator(&translator);
+        QCoreApplication::sendPostedEvents();
+        const auto removeTranslator
+            = qScopeGuard([&translator] { QCoreApplication::removeTranslator(&translator); });
+
+        QCOMPARE(w->window->windowTitle(), "~Vellumio");
+        QCOMPARE(w->part<QPushButton>("pb_print")->text(), "~Print");
+        QCOMPARE(w->tabs()->tabText(9), "~XLS");
+        QCOMPARE(w->tabs()->count(), 11);
+        QCOMPARE(w->fileName()->text(), "/out/Document1");
+        QCOMPARE(w->part<QLineEdit>("le_pr_custom")->text(), "42");
+        QCOMPARE(jobSettings().customNumber, "42");
+        QCOMPARE(coloursShown(), Colours({gifModes, "Grayscale", "24g"}));
+    }
+
+    // The dialog leaves the topmost band before each modal step of its own: the PDF dialog and
+    // each of Print's messages.
+    void windowOrder_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("fileName"); // below the job's folder
+        QTest::addColumn<QString>("atName"); // what is there already: "", "file" or "folder"
+        QTest::addColumn<int>("modalSteps");
+        // clang-format off
+        QTest::newRow("Advanced: the PDF dialog")   << "pb_pdf_protect" << "report"         << ""       << 1;
+        QTest::newRow("Print: folder missing")      << "pb_print"       << "missing/report" << ""       << 1;
+        QTest::newRow("Print: file exists")         << "pb_print"       << "report"         << "file"   << 1;
+        QTest::newRow("Print: replace, no access")  << "pb_print"       << "report"         << "folder" << 2;
+        // clang-format on
+    }
+    void windowOrder()
+    {
+        QFETCH(QString, button);
+        QFETCH(QString, fileName);
+        QFETCH(QString, atName);
+        QFETCH(int, modalSteps);
+        open(true);
+        w->tabs()->setCurrentIndex(7);
+        w->fileName()->setText(w->job.path(fileName));
+        if (atName == "file")
+            w->job.writeFile(w->job.path(fileName + ".pdf"), "an earlier print");
+        if (atName == "folder")
+            QVERIFY(QDir().mkpath(w->job.path(fileName + ".pdf")));
+        w->prompts.answers << QMessageBox::Yes;
+        w->prompts.watched = w->window.get();
+        w->window->show();
+        WindowOrder::setTopmost(w->window.get());
+
+        QList<bool> topmostDuringStep;
+        QTimer dialogUp; // the PDF dialog runs its own event loop
+        connect(&dialogUp, &QTimer::timeout, this, [&] {
+            if (QWidget *dialog = QApplication::activeModalWidget()) {
+                topmostDuringStep << WindowOrder::isTopmost(w->window.get());
+                dialog->close();
+            }
+        });
+        dialogUp.start(0);
+        QTest::mouseClick(w->part<QAbstractButton>(button.toLatin1()), Qt::LeftButton);
+        for (const ScriptedPrompts::Question &question : std::as_const(w->prompts.questions))
+            topmostDuringStep << question.watchedWasTopmost;
+        QCOMPARE(topmostDuringStep, QList<bool>(modalSteps, false));
     }
 
 private:
@@ -167,80 +436,24 @@ private:
     {
         w.reset(); // one job at a time: the old answers uninstall themselves first
         w = std::make_unique<OpenWindow>(converter);
-        window = w->window.get();
-        window->show();
-        tabs = w->tabs();
-        combo = w->part<QComboBox>("cb_combobox");
+        w->window->show();
     }
-    // Steps in turn: a number enters that page, "rb_..." is clicked with the mouse, "set:rb_..."
-    // is checked from code, "=text" picks a colour, "?text" is reported as the list's text,
-    // "type:" (one character) and "paste:" edit the custom number, "lang" installs a translation,
-    // "key:widget:key" types a key (on the window when no widget is named; Enter is the keypad's).
-    void run(const QString &steps)
+    static QStringList items(const QComboBox *combo)
     {
-        w->fileName()->setText(w->job.path("missing/out"));
-        WindowOrder::setTopmost(window);
-        for (const QString &step : steps.split(QLatin1Char(' '))) {
-            const QString arg = step.section(QLatin1Char(':'), 1);
-            auto *custom = w->part<QLineEdit>("le_pr_custom");
-            if (step.startsWith(QLatin1Char('=')))
-                combo->setCurrentIndex(combo->findText(step.mid(1)));
-            else if (step.startsWith(QLatin1Char('?')))
-                window->cb_combobox_currentIndexChanged(step.mid(1));
-            else if (step.startsWith(QLatin1String("set:")))
-                w->part<QRadioButton>(arg.toLatin1())->setChecked(true);
-            else if (step.startsWith(QLatin1String("rb_")))
-                QTest::mouseClick(w->part<QRadioButton>(step.toLatin1()), Qt::LeftButton);
-            else if (step.startsWith(QLatin1String("paste:")))
-                custom->selectAll(), custom->insert(arg);
-            else if (step.startsWith(QLatin1String("type:"))) {
-                QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, arg); // as a keyboard sends it
-                QCoreApplication::sendEvent(custom, &press);
-            } else if (step == QLatin1String("lang")) {
-                translator = std::make_unique<MarkingTranslator>("MainWindow");
-                QCoreApplication::installTranslator(translator.get());
-                QCoreApplication::sendPostedEvents();
-            } else if (step.startsWith(QLatin1String("key:")))
-                QTest::keyClick(step.section(':', 1, 1).isEmpty()
-                        ? window
-                        : w->part(step.section(':', 1, 1).toLatin1()),
-                    QKeySequence(step.section(':', 2))[0].key(),
-                    step.endsWith("Enter") ? Qt::KeypadModifier : Qt::NoModifier);
-            else
-                tabs->setCurrentIndex(step.toInt());
-        }
-    }
-    // "[hidden ]items > current[ disabled] = colour code", "words" and the translated texts
-    // ("lost" when the file name changed), "custom on|off text" (with "differs"
-    // when the value does not follow the text), or "key printed|ignored[ topmost]"
-    QString state(const QString &kind = QString()) const
-    {
-        auto *custom = w->part<QLineEdit>("le_pr_custom");
-        if (kind == QLatin1String("custom"))
-            return (custom->isEnabled() ? "custom on " : "custom off ") + custom->text()
-                + (jobSettings().customNumber == custom->text() ? "" : " differs");
-        if (kind == QLatin1String("words"))
-            return "words " + window->windowTitle() + ' '
-                + w->part<QAbstractButton>("pb_print")->text() + ' ' + tabs->tabText(Formats::Excel)
-                + QString::number(tabs->count())
-                + (w->fileName()->text() == w->job.path("missing/out") ? "" : " lost");
-        if (kind == QLatin1String("key"))
-            return QString(w->prompts.questions.size() == 1 ? "key printed" : "key ignored")
-                + (WindowOrder::isTopmost(window) ? " topmost" : "");
-        QStringList items;
+        QStringList texts;
         for (int row = 0; row < combo->count(); ++row)
-            items << combo->itemText(row);
-        return (w->part("gb_color")->isVisible() ? "" : "hidden ") + items.join(',') + " > "
-            + combo->currentText() + (combo->isEnabled() ? "" : " disabled") + " = "
-            + jobSettings().colorCode;
+            texts << combo->itemText(row);
+        return texts;
+    }
+    Colours coloursShown() const
+    {
+        const auto *combo = w->part<QComboBox>("cb_combobox");
+        return {items(combo), combo->currentText(), jobSettings().colorCode,
+            w->part("gb_color")->isVisible(), combo->isEnabled()};
     }
 
-    std::unique_ptr<MarkingTranslator> translator;
     std::unique_ptr<OpenWindow> w;
-    MainWindow *window = nullptr;
-    QTabWidget *tabs = nullptr;
-    QComboBox *combo = nullptr;
 };
 
-QTEST_MAIN(MainWindowTest)
+QTEST_MAIN(tst_MainWindow)
 #include "tst_mainwindow.moc"
