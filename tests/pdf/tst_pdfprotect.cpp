@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The advanced PDF dialog against the shared job values: each value in its own widget, the
+// password check, Cancel, echo, tab order and language. Print's saving of them is the settings
+// suite's.
 #include "pdf/pdfprotect.h"
-#include "settings/jobsettings.h"
+#include "tests/support/findwidget.h"
+#include "tests/support/jobfields.h"
 #include "tests/support/markingtranslator.h"
 #include "tests/support/scriptedprompts.h"
 
@@ -9,144 +13,203 @@
 
 namespace {
 
-// The shared values' fields: eight texts, then the eight permission boxes.
-const QStringList fields = {"le_pdf_title", "le_pdf_author", "le_pdf_subject", "le_pdf_keywords",
-    "le_pdf_creator", "le_pdf_producer", "le_pdf_user_pw", "le_pdf_owner_pw", "ch_pdf_print",
-    "ch_pdf_edit", "ch_pdf_copy", "ch_pdf_editnotes", "ch_pdf_fillandsign", "ch_pdf_accessible",
-    "ch_pdf_assemble", "ch_pdf_highprint"};
-
-// A missing one crashes the test, which is a failure too.
-template<typename T = QWidget>
-T *child(const QObject &dialog, const QString &name)
-{
-    return dialog.findChild<T *>(name);
-}
+using Shown = FormState;
 
 // The password fields: user, its repeat, owner, its repeat.
 const QStringList passwords
     = {"le_pdf_user_pw", "le_pdf_user_pw_2", "le_pdf_owner_pw", "le_pdf_owner_pw_2"};
 
-// What the dialog shows, in the order of `fields`; with `change`, every field is then changed,
-// each to a value of its own.
-QStringList shown(const pdfprotect &dialog, bool change = false)
-{
-    QStringList values;
-    for (const QString &name : fields) {
-        auto *edit = child<QLineEdit>(dialog, name);
-        auto *box = child<QCheckBox>(dialog, name);
-        values << (edit ? edit->text() : QVariant(box->isChecked()).toString());
-        if (change)
-            edit ? edit->setText(name.mid(7)) : box->toggle();
-    }
-    return values;
-}
-
 } // namespace
 
-// The advanced PDF dialog edits the shared job values; Print's saving of them is proven by the
-// settings suite's write-order and round-trip tests.
 class tst_PdfProtect : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init() { jobSettings() = JobSettings(); }
-    void okAndCancel_data()
+
+    // Each job value alone: set, a new dialog shows it in exactly its own widgets; shown there
+    // on a new job, OK stores exactly that value.
+    void eachValueInItsWidget_data()
     {
-        // stored: the protection flag before; chosen: the combo index picked (-1: none); typed:
-        // user, its repeat, owner, its repeat; button: how the dialog is left; title: the message
-        // shown; repeats: the two repeat fields afterwards
-        QTest::addColumn<bool>("stored");
-        QTest::addColumn<int>("chosen");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("repeats");
+        QTest::addColumn<QString>("value"); // of the job value named by the row
+        QTest::addColumn<Shown>("widgets"); // all that differs in a new dialog
         // clang-format off
-        QTest::newRow("both changed, match")      << true  << -1 << "u1,u1,o1,o1" << "pb_ok"     << ""               << "u1,o1";
-        QTest::newRow("user differs")             << false << -1 << "u1,u2,o1,o1" << "pb_ok"     << "User Password"  << ",o1";
-        QTest::newRow("owner differs")            << false << -1 << "u1,u1,o1,o2" << "pb_ok"     << "Owner Password" << "u1,";
-        QTest::newRow("both differ, user first")  << false << -1 << "u1,u2,o1,o2" << "pb_ok"     << "User Password"  << ",o2";
-        QTest::newRow("case differs")             << false << -1 << "Secret,secret,," << "pb_ok" << "User Password"  << ",";
-        QTest::newRow("switched on, Cancel")      << false << 1  << "u1,u1,,"     << "pb_cancel" << ""               << "u1,";
-        QTest::newRow("switched off, Cancel")     << true  << 0  << "u1,u1,,"     << "pb_cancel" << ""               << "u1,";
-        QTest::newRow("switched on, mismatch")    << false << 1  << "u1,u2,,"     << "pb_ok"     << "User Password"  << ",";
+        QTest::newRow("pdf.title")         << "Title"    << Shown{{"le_pdf_title", "Title"}};
+        QTest::newRow("pdf.author")        << "Author"   << Shown{{"le_pdf_author", "Author"}};
+        QTest::newRow("pdf.subject")       << "Subject"  << Shown{{"le_pdf_subject", "Subject"}};
+        QTest::newRow("pdf.keywords")      << "Keywords" << Shown{{"le_pdf_keywords", "Keywords"}};
+        QTest::newRow("pdf.creator")       << "Creator"  << Shown{{"le_pdf_creator", "Creator"}};
+        QTest::newRow("pdf.producer")      << "Producer" << Shown{{"le_pdf_producer", "Producer"}};
+        QTest::newRow("pdf.userPassword")  << "pw"       << Shown{{"le_pdf_user_pw", "pw"}, {"le_pdf_user_pw_2", "pw"}};
+        QTest::newRow("pdf.ownerPassword") << "ow"       << Shown{{"le_pdf_owner_pw", "ow"}, {"le_pdf_owner_pw_2", "ow"}};
+        QTest::newRow("pdf.protect")                 << "true" << Shown{{"cb_security", "Password Encryption"}};
+        QTest::newRow("pdf.permissions.print")       << "true" << Shown{{"ch_pdf_print", "checked"}};
+        QTest::newRow("pdf.permissions.edit")        << "true" << Shown{{"ch_pdf_edit", "checked"}};
+        QTest::newRow("pdf.permissions.copy")        << "true" << Shown{{"ch_pdf_copy", "checked"}};
+        QTest::newRow("pdf.permissions.editNotes")   << "true" << Shown{{"ch_pdf_editnotes", "checked"}};
+        QTest::newRow("pdf.permissions.fillAndSign") << "true" << Shown{{"ch_pdf_fillandsign", "checked"}};
+        QTest::newRow("pdf.permissions.accessible")  << "true" << Shown{{"ch_pdf_accessible", "checked"}};
+        QTest::newRow("pdf.permissions.assemble")    << "true" << Shown{{"ch_pdf_assemble", "checked"}};
+        QTest::newRow("pdf.permissions.highPrint")   << "true" << Shown{{"ch_pdf_highprint", "checked"}};
         // clang-format on
     }
+    void eachValueInItsWidget()
+    {
+        QFETCH(QString, value);
+        QFETCH(Shown, widgets);
+        const QString field = QTest::currentDataTag();
+        const Shown jobByDefault = JobFields::all();
+        const Shown dialogByDefault = shownByNewDialog();
+        QVERIFY(JobFields::set(field, value));
+        QCOMPARE(FormStates::text(FormStates::changes(dialogByDefault, shownByNewDialog())),
+            FormStates::text(widgets));
+
+        jobSettings() = JobSettings();
+        pdfprotect dialog;
+        for (auto it = widgets.begin(); it != widgets.end(); ++it)
+            FormStates::set(findWidget(&dialog, it.key()), it.value());
+        findWidget<QPushButton>(&dialog, "pb_ok")->click();
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(FormStates::text(FormStates::changes(jobByDefault, JobFields::all())),
+            FormStates::text({{field, value}}));
+    }
+
     // Both pairs are compared, user pair first, also with encryption off; only a match stores.
-    // The protection flag is written as soon as the combo changes, so Cancel keeps it.
+    // The protection flag is written as soon as the combo box changes, so Cancel keeps it.
+    void okAndCancel_data()
+    {
+        QTest::addColumn<bool>("protect"); // the job's protection flag before
+        QTest::addColumn<int>("chosen"); // the encryption picked; -1: none
+        QTest::addColumn<QStringList>("typed"); // user, its repeat, owner, its repeat
+        QTest::addColumn<QString>("button"); // how the dialog is left
+        QTest::addColumn<QString>("message"); // the title of the message shown; empty: none
+        QTest::addColumn<QStringList>("repeats"); // the two repeat fields afterwards
+        // clang-format off
+        QTest::newRow("both changed, match")     << true  << -1 << QStringList{"u1", "u1", "o1", "o1"} << "pb_ok"     << ""               << QStringList{"u1", "o1"};
+        QTest::newRow("user differs")            << false << -1 << QStringList{"u1", "u2", "o1", "o1"} << "pb_ok"     << "User Password"  << QStringList{"", "o1"};
+        QTest::newRow("owner differs")           << false << -1 << QStringList{"u1", "u1", "o1", "o2"} << "pb_ok"     << "Owner Password" << QStringList{"u1", ""};
+        QTest::newRow("both differ, user first") << false << -1 << QStringList{"u1", "u2", "o1", "o2"} << "pb_ok"     << "User Password"  << QStringList{"", "o2"};
+        QTest::newRow("case differs")            << false << -1 << QStringList{"Secret", "secret", "", ""} << "pb_ok" << "User Password"  << QStringList{"", ""};
+        QTest::newRow("switched on, Cancel")     << false << 1  << QStringList{"u1", "u1", "", ""}     << "pb_cancel" << ""               << QStringList{"u1", ""};
+        QTest::newRow("switched off, Cancel")    << true  << 0  << QStringList{"u1", "u1", "", ""}     << "pb_cancel" << ""               << QStringList{"u1", ""};
+        QTest::newRow("switched on, mismatch")   << false << 1  << QStringList{"u1", "u2", "", ""}     << "pb_ok"     << "User Password"  << QStringList{"", ""};
+        // clang-format on
+    }
     void okAndCancel()
     {
-        QFETCH(bool, stored);
+        QFETCH(bool, protect);
         QFETCH(int, chosen);
-        QFETCH(QString, typed);
+        QFETCH(QStringList, typed);
         QFETCH(QString, button);
-        QFETCH(QString, title);
-        QFETCH(QString, repeats);
+        QFETCH(QString, message);
+        QFETCH(QStringList, repeats);
         ScriptedPrompts prompts;
         jobSettings().pdf = {"Title", "Author", "Subject", "Keywords", "Creator",
-            QStringLiteral("Pr\u00f6ducer "), "user", "owner", stored,
+            QStringLiteral("Pr\u00f6ducer "), "user", "owner", protect,
             {true, false, true, false, true, false, true, false}};
+        const Shown loaded = JobFields::all();
         pdfprotect dialog;
-        // Every field shows its own job value, then all are changed.
-        const QStringList loaded = {"Title", "Author", "Subject", "Keywords", "Creator",
-            QStringLiteral("Pr\u00f6ducer "), "user", "owner", "true", "false", "true", "false",
-            "true", "false", "true", "false"};
-        QCOMPARE(shown(dialog, true), loaded);
+        // Every text and box changed, so a store shows everywhere.
+        for (QLineEdit *edit : dialog.findChildren<QLineEdit *>())
+            edit->setText(edit->objectName() + "!");
+        for (QCheckBox *box : dialog.findChildren<QCheckBox *>())
+            box->toggle();
         for (int i = 0; i < 4; ++i)
-            child<QLineEdit>(dialog, passwords[i])->setText(typed.section(',', i, i));
-        auto *security = child<QComboBox>(dialog, "cb_security");
-        QCOMPARE(security->currentText(), stored ? "Password Encryption" : "No Encryption");
+            findWidget<QLineEdit>(&dialog, passwords[i])->setText(typed[i]);
+        auto *security = findWidget<QComboBox>(&dialog, "cb_security");
+        QCOMPARE(security->currentText(), protect ? "Password Encryption" : "No Encryption");
         if (chosen >= 0)
             security->setCurrentIndex(chosen);
-        const bool on = chosen >= 0 ? chosen == 1 : stored;
-        QCOMPARE(child(dialog, "gb_pdf_protect")->isEnabled(), on);
-        child<QPushButton>(dialog, button)->click();
+        const bool on = chosen >= 0 ? chosen == 1 : protect;
+        QCOMPARE(findWidget(&dialog, "gb_pdf_protect")->isEnabled(), on);
+        findWidget<QPushButton>(&dialog, button)->click();
 
-        QCOMPARE(child<QLineEdit>(dialog, passwords[1])->text() + ','
-                + child<QLineEdit>(dialog, passwords[3])->text(),
+        QCOMPARE(QStringList({findWidget<QLineEdit>(&dialog, passwords[1])->text(),
+                     findWidget<QLineEdit>(&dialog, passwords[3])->text()}),
             repeats);
-        QCOMPARE(prompts.questions.size(), title.isEmpty() ? 0 : 1);
+        QCOMPARE(prompts.questions.size(), message.isEmpty() ? 0 : 1);
         for (const ScriptedPrompts::Question &asked : std::as_const(prompts.questions)) {
             QVERIFY(asked.parent == &dialog && asked.buttons == QMessageBox::Ok);
-            QCOMPARE(asked.title + '|' + asked.text, title + "|Password entered does not match.");
+            QCOMPARE(asked.title, message);
+            QCOMPARE(asked.text, "Password entered does not match.");
         }
         // On a mismatch the dialog stays open and nothing is stored, not even the document
         // information; the protection flag is kept on Cancel.
-        const bool kept = button == "pb_ok" && title.isEmpty();
-        QCOMPARE(dialog.result(), int(kept ? QDialog::Accepted : QDialog::Rejected));
-        QCOMPARE(shown(pdfprotect()), kept ? shown(dialog) : loaded); // as a new dialog loads them
-        QCOMPARE(jobSettings().pdf.protect, on);
+        const bool stored = button == "pb_ok" && message.isEmpty();
+        QCOMPARE(dialog.result(), int(stored ? QDialog::Accepted : QDialog::Rejected));
+        Shown expected = loaded;
+        expected.insert("pdf.protect", QVariant(on).toString());
+        if (stored) {
+            expected.insert("pdf.title", "le_pdf_title!");
+            expected.insert("pdf.producer", "le_pdf_producer!");
+            expected.insert("pdf.userPassword", typed[0]);
+            expected.insert("pdf.ownerPassword", typed[2]);
+            expected.insert("pdf.permissions.print", "false");
+            expected.insert("pdf.permissions.edit", "true");
+        }
+        const Shown now = JobFields::all();
+        for (const char *field : {"pdf.protect", "pdf.title", "pdf.producer", "pdf.userPassword",
+                 "pdf.ownerPassword", "pdf.permissions.print", "pdf.permissions.edit"})
+            QCOMPARE(field + (" = " + now.value(field)), field + (" = " + expected.value(field)));
+        if (!stored)
+            QCOMPARE(FormStates::text(now), FormStates::text(expected));
     }
-    // With encryption loaded: Show characters switches all four password fields; Tab goes from the
-    // title to the subject, and from a password straight on, past its repeat; a language installed
-    // at run time translates the texts and leaves the choice alone.
-    void echoTabOrderAndLanguage()
+
+    // Show characters switches all four password fields, and back (with encryption on, where the
+    // box can be clicked).
+    void showCharacters()
     {
         jobSettings().pdf.protect = true;
         pdfprotect dialog;
-        QString modes; // 2: hidden, 0: shown
-        for (int round = 0; round < 3;
-             ++round, child<QCheckBox>(dialog, "ch_showchars_pw")->click())
-            for (int i = 0; i < 4; ++i)
-                modes += QString::number(child<QLineEdit>(dialog, passwords[i])->echoMode());
-        QCOMPARE(modes, "222200002222");
-        QStringList next;
-        for (const char *name : {"pb_ok", "le_pdf_title", "le_pdf_subject", "le_pdf_user_pw",
-                 "le_pdf_owner_pw", "ch_pdf_print"})
-            next << child(dialog, name)->nextInFocusChain()->objectName();
-        QCOMPARE(next.join(' '),
-            "pb_cancel le_pdf_subject le_pdf_author le_pdf_owner_pw ch_showchars_pw "
-            "ch_pdf_highprint");
+        for (const QLineEdit::EchoMode mode :
+            {QLineEdit::Password, QLineEdit::Normal, QLineEdit::Password}) {
+            for (const QString &name : passwords)
+                QCOMPARE(findWidget<QLineEdit>(&dialog, name)->echoMode(), mode);
+            findWidget<QCheckBox>(&dialog, "ch_showchars_pw")->click();
+        }
+    }
 
+    // Tab goes from the title to the subject, and from a password straight on, past its repeat.
+    void tabOrder_data()
+    {
+        QTest::addColumn<QString>("next");
+        QTest::newRow("pb_ok") << "pb_cancel";
+        QTest::newRow("le_pdf_title") << "le_pdf_subject";
+        QTest::newRow("le_pdf_subject") << "le_pdf_author";
+        QTest::newRow("le_pdf_user_pw") << "le_pdf_owner_pw";
+        QTest::newRow("le_pdf_owner_pw") << "ch_showchars_pw";
+        QTest::newRow("ch_pdf_print") << "ch_pdf_highprint";
+    }
+    void tabOrder()
+    {
+        QFETCH(QString, next);
+        pdfprotect dialog;
+        QCOMPARE(
+            findWidget(&dialog, QTest::currentDataTag())->nextInFocusChain()->objectName(), next);
+    }
+
+    // A language installed at run time translates the texts and leaves the choice alone.
+    void language()
+    {
+        jobSettings().pdf.protect = true;
+        pdfprotect dialog;
         MarkingTranslator translator("pdfprotect"); // the application posts the change
         QVERIFY(QCoreApplication::installTranslator(&translator));
         QTRY_COMPARE(dialog.windowTitle(), "~ Advanced PDF Settings ");
-        const auto *security = child<QComboBox>(dialog, "cb_security");
-        QVERIFY(security->itemText(1) == "~Password Encryption" && security->currentIndex() == 1
-            && jobSettings().pdf.protect);
+        const auto *security = findWidget<QComboBox>(&dialog, "cb_security");
+        QCOMPARE(security->itemText(1), "~Password Encryption");
+        QCOMPARE(security->currentIndex(), 1);
+        QVERIFY(jobSettings().pdf.protect);
         QCoreApplication::removeTranslator(&translator);
         QTRY_COMPARE(dialog.windowTitle(), " Advanced PDF Settings ");
+    }
+
+private:
+    static Shown shownByNewDialog()
+    {
+        const pdfprotect dialog;
+        return FormStates::all(&dialog);
     }
 };
 
