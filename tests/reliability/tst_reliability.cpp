@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/jobfixture.h"
+#include "tests/support/unprivileged.h"
 
 #include <QDeadlineTimer>
 #include <QProcess>
@@ -12,23 +13,31 @@
 
 namespace {
 
-// Starts the helper with the job's keys, its output going into the job's temporary folder.
-void startHelper(QProcess &process, const JobFixture &job, const QStringList &arguments)
+// Starts the helper with the job's keys, its output going into the job's temporary folder;
+// `unprivileged`, as nobody where the test runs as root, the job's folder handed over to it.
+void startHelper(QProcess &process, const JobFixture &job, const QStringList &arguments,
+    bool unprivileged = false)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("XDG_CONFIG_HOME", job.path("user"));
     environment.insert("XDG_CONFIG_DIRS", job.path("machine"));
     environment.insert("FMTASK_OUTPUT_FOLDER", job.dir.path());
     process.setProcessEnvironment(environment);
-    process.start(RELIABILITY_HELPER, arguments);
+    if (!unprivileged) {
+        process.start(RELIABILITY_HELPER, arguments);
+        return;
+    }
+    const QString helper = Unprivileged::reachable(RELIABILITY_HELPER, job.dir.path());
+    if (Unprivileged::handOver(job.dir.path()))
+        Unprivileged::start(process, helper, arguments);
 }
 
 // The program's own run on the job's keys, Print pressed once the dialog shows: its output when it
 // ended by itself with status 0 ("closed-by-print" in it when Print closed the dialog).
-QByteArray runProgram(const JobFixture &job)
+QByteArray runProgram(const JobFixture &job, bool unprivileged = false)
 {
     QProcess program;
-    startHelper(program, job, {"run", "Document1"});
+    startHelper(program, job, {"run", "Document1"}, unprivileged);
     if (!program.waitForFinished(30000))
         program.kill(), program.waitForFinished();
     const bool ended = program.exitStatus() == QProcess::NormalExit && program.exitCode() == 0;
@@ -136,12 +145,15 @@ private slots:
     // file written here is readable by all, the key's file (or the one a link leads to) must end up
     // for its owner only; a link to a device keeps the device.
     // Each row's name says what stands at the key; rows with bytes write them into a file there.
+    // Root writes read-only keys regardless, so those rows run the program as nobody.
     void programPrintsAndExits_data()
     {
         QTest::addColumn<QByteArray>("user");
         QTest::addColumn<uint>("mode"); // of the key's file afterwards; 0: not checked
-        const auto row = [](const char *key, const QByteArray &user, uint mode = 0) {
-            QTest::newRow(key) << user << mode;
+        QTest::addColumn<bool>("unprivileged"); // the key is kept as it was
+        const auto row = [](const char *key, const QByteArray &user, uint mode = 0,
+                             bool unprivileged = false) {
+            QTest::newRow(key) << user << mode << unprivileged;
         };
         const uint owner = S_IFREG | 0600;
         const QByteArray mega(1 << 20, 'm');
@@ -156,8 +168,8 @@ private slots:
             "format=\xff\xfe\nPath=\xc3\x28/\xed\xa0\x80/\nnewfilename=\xf8\x88\x80\n"
             "\xff\xfe=\xc0\xaf\nstyle=Windows\xe2\x82\n",
             owner);
-        row("read-only file", "format=png\n");
-        row("read-only folder", "format=png\n");
+        row("read-only file", "format=png\n", 0, true);
+        row("read-only folder", "format=png\n", 0, true);
         row("folder", {});
         row("dangling link", {});
         row("named pipe", {});
@@ -170,6 +182,9 @@ private slots:
     {
         QFETCH(QByteArray, user);
         QFETCH(uint, mode);
+        QFETCH(bool, unprivileged);
+        QVERIFY2(!unprivileged || Unprivileged::obstacle().isEmpty(),
+            qPrintable(Unprivileged::obstacle()));
         const QByteArray key = QTest::currentDataTag();
         JobFixture job;
         ::umask(0);
@@ -191,18 +206,20 @@ private slots:
             QSKIP("making a device node needs root");
         QVERIFY(target == file || ::symlink(target, file) == 0);
 
-        QCOMPARE(runProgram(job), QByteArray("closed-by-print\n"));
+        QCOMPARE(runProgram(job, unprivileged), QByteArray("closed-by-print\n"));
         // A key that can be written holds the job's values after all; one that cannot is kept.
-        const bool kept = key.startsWith("read-only") && ::geteuid() != 0;
         if (!user.isEmpty())
-            QVERIFY(kept ? JobFixture::bytesOf(job.userFile()) == user
-                         : JobFixture::valueOf(job.userFile(), "isabort") == "false");
+            QVERIFY(unprivileged ? JobFixture::bytesOf(job.userFile()) == user
+                                 : JobFixture::valueOf(job.userFile(), "isabort") == "false");
         struct stat status = {};
         QVERIFY(!mode || ::stat(target, &status) == 0);
         QCOMPARE(status.st_mode, mode);
         static int tried = 0, checked = 0;
-        qInfo("settings keys: %d tried, closed by Print, status 0, %d checked for 0600, findings 0",
-            ++tried, checked += mode != 0);
+        qInfo(
+            "settings keys: %d tried, closed by Print, status 0, %d checked for 0600, findings 0; "
+            "\"%s\" ran as %s",
+            ++tried, checked += mode != 0, key.constData(),
+            qPrintable(Unprivileged::user(unprivileged)));
     }
 
     // Settings name a script, which leaves a marker when run, in a watched folder named like the
