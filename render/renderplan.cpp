@@ -563,28 +563,14 @@ void Planner::djvu()
         addOutputs(files);
         return;
     }
-    // One file: page ranges side by side, bundled in order by djvm.
-    const QList<Chunk> chunks = chunksOf(m_job.pages, m_job.parallel);
-    QStringList parts;
-    for (const Chunk &chunk : chunks) {
-        const QString part
-            = QStringLiteral("part-") + number(chunk.first) + QStringLiteral(".djvu");
-        const QString range = number(chunk.first) + QLatin1Char('-') + number(chunk.last);
-        addTask(stageIndex,
-            {run(str("pdf2djvu"),
-                resolutionOption + QStringList {str("-p"), range, str("-o"), part, input},
-                chunk.last - chunk.first + 1)});
-        parts << part;
-    }
-    if (parts.size() == 1) {
-        addOutputs(parts);
-        return;
-    }
-    const QString bundled = QStringLiteral("document.djvu");
-    Step merge = run(str("djvm"), QStringList {str("-c"), bundled} + parts, m_job.pages);
-    merge.removeAfter = parts;
-    addTask(stageIndex + 1, {merge});
-    addOutputs({bundled});
+    // One file: pdf2djvu shares the pages among its own threads, one per core.
+    addTask(stageIndex,
+        {run(str("pdf2djvu"),
+            resolutionOption
+                + QStringList {str("-j"), number(m_job.parallel), str("-o"), str("document.djvu"),
+                    input},
+            m_job.pages)});
+    addOutputs({str("document.djvu")});
 }
 
 Plan Planner::plan()
@@ -663,11 +649,11 @@ Plan makePlan(const Options &options, const Job &job)
 
 QString packageOf(const QString &program)
 {
-    static const std::pair<const char *, const char *> packages[] = {{"gs", "ghostscript"},
-        {"pdfinfo", "poppler-utils"}, {"pdftotext", "poppler-utils"},
-        {"pdftohtml", "poppler-utils"}, {"qpdf", "qpdf"}, {"tiffcp", "libtiff-tools"},
-        {"pngtopnm", "netpbm"}, {"pnmtotiff", "netpbm"}, {"pamtogif", "netpbm"},
-        {"opj_compress", "libopenjp2-tools"}, {"pdf2djvu", "pdf2djvu"}, {"djvm", "djvulibre-bin"}};
+    static const std::pair<const char *, const char *> packages[]
+        = {{"gs", "ghostscript"}, {"pdfinfo", "poppler-utils"}, {"pdftotext", "poppler-utils"},
+            {"pdftohtml", "poppler-utils"}, {"qpdf", "qpdf"}, {"tiffcp", "libtiff-tools"},
+            {"pngtopnm", "netpbm"}, {"pnmtotiff", "netpbm"}, {"pamtogif", "netpbm"},
+            {"opj_compress", "libopenjp2-tools"}, {"pdf2djvu", "pdf2djvu"}};
     for (const auto &[name, package] : packages) {
         if (program == QLatin1String(name))
             return QLatin1String(package);

@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Rendering benchmark: a job through the plan against the same tool runs made by hand, per-page
+// tools on one core and on two, and the peak memory of the project's own process on 500 pages.
+#include "render/inprocesswrites.h"
+#include "render/rendering.h"
+#include "render/renderplan.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+
+extern char **environ;
+
+using namespace Render;
+
+namespace {
+
+// A letter-size job: a line of text and a coloured image on every page.
+QString makeJob(const QDir &dir, int pages)
+{
+    const QString pdf = dir.filePath(QStringLiteral("job-%1.pdf").arg(pages));
+    QFile ps(dir.filePath("job.ps"));
+    ps.open(QIODevice::WriteOnly);
+    ps.write(
+        "%!PS\n<< /PageSize [612 792] >> setpagedevice\n/Helvetica findfont 14 scalefont setfont\n"
+        "/row 300 string def\n1 1 "
+        + QByteArray::number(pages)
+        + " { /n exch def 72 720 moveto (Page ) show n 4 string cvs show\n"
+          "0 1 30 { /l exch def 72 690 l 14 mul sub moveto (The quick brown fox jumps over the "
+          "lazy dog, "
+          "line ) show l 3 string cvs show } for\n"
+          "gsave 72 72 translate 200 150 scale 100 75 8 [100 0 0 -75 0 75]\n"
+          "{ 0 1 299 { row exch rand -16 bitshift 255 and put } for row } false 3 colorimage "
+          "grestore\n"
+          "showpage } for\n");
+    ps.close();
+    QProcess::execute("gs",
+        {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=pdfwrite", "-sOutputFile=" + pdf,
+            ps.fileName()});
+    return pdf;
+}
+
+// One tool run as a person would type it: spawned, waited for, nothing else.
+bool spawn(const Command &command, const QDir &work)
+{
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    const QByteArray in = QFile::encodeName(
+        command.standardInput.isEmpty() ? "/dev/null" : work.filePath(command.standardInput));
+    const QByteArray out = QFile::encodeName(
+        command.standardOutput.isEmpty() ? "/dev/null" : work.filePath(command.standardOutput));
+    posix_spawn_file_actions_addopen(&actions, 0, in.constData(), O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(
+        &actions, 1, out.constData(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    if (!command.secretFile.isEmpty()) {
+        QFile secret(work.filePath(command.secretFile));
+        secret.open(QIODevice::WriteOnly);
+        secret.write(command.secret);
+    }
+    QList<QByteArray> storage {command.program.toLocal8Bit()};
+    for (const QString &argument : command.arguments)
+        storage << argument.toLocal8Bit();
+    std::vector<char *> argv;
+    for (QByteArray &argument : storage)
+        argv.push_back(argument.data());
+    argv.push_back(nullptr);
+    const QByteArray cwd = QDir::currentPath().toLocal8Bit();
+    QDir::setCurrent(work.path());
+    pid_t pid = 0;
+    const bool started = posix_spawnp(&pid, argv[0], &actions, nullptr, argv.data(), environ) == 0;
+    QDir::setCurrent(QString::fromLocal8Bit(cwd));
+    posix_spawn_file_actions_destroy(&actions);
+    int status = 0;
+    return started && waitpid(pid, &status, 0) == pid && WIFEXITED(status)
+        && (WEXITSTATUS(status) == 0 || WEXITSTATUS(status) == command.warningStatus);
+}
+
+// The plan's commands one after another in a plain folder, its writes called directly.
+double byHand(const Options &options, const QString &job, int pages)
+{
+    QTemporaryDir work;
+    const Plan plan = makePlan(options, {job, pages, 1});
+    QElapsedTimer clock;
+    clock.start();
+    // The page count is a tool run of every job: the plan needs it, and so does a person.
+    Command count;
+    count.program = "qpdf";
+    count.arguments = QStringList {"--show-npages", job};
+    spawn(count, QDir(work.path()));
+    for (const Stage &stage : plan.stages)
+        for (const Task &task : stage.tasks)
+            for (const Step &step : task.steps)
+                if (step.isWrite ? !perform(step.write, QDir(work.path())).isEmpty()
+                                 : !spawn(step.command, QDir(work.path())))
+                    std::fprintf(stderr, "by hand: %s failed\n", qPrintable(step.command.program));
+    return clock.elapsed() / 1000.0;
+}
+
+double planned(const Options &options, const QString &job, int parallel)
+{
+    QElapsedTimer clock;
+    clock.start();
+    const Result result = renderJob(options, job, Existing::Replace, parallel);
+    if (!result.ok())
+        std::fprintf(stderr, "plan: %s\n", qPrintable(result.message));
+    return clock.elapsed() / 1000.0;
+}
+
+Options optionsFor(const QString &token, const QString &folder)
+{
+    Options options;
+    options.format = Formats::byToken(token)->index;
+    options.folder = folder;
+    options.name = token;
+    return options;
+}
+
+double median(QList<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values.at(values.size() / 2);
+}
+
+long peakKiB()
+{
+    rusage usage {};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
+
+struct Case
+{
+    const char *label;
+    const char *token;
+    void (*adjust)(Options &);
+};
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = application.arguments();
+    QTemporaryDir dir;
+    const QString out = dir.filePath("out");
+    QDir().mkpath(out);
+
+    // A child renders one 500-page job and reports its own peak resident memory.
+    if (arguments.size() == 4 && arguments.at(1) == "--memory") {
+        Options options = optionsFor(arguments.at(2), out);
+        options.dpi = arguments.at(3).toInt();
+        options.multipageTiff = true;
+        options.compression = "G4";
+        options.htmText = false;
+        const long before = peakKiB();
+        const Result result
+            = renderJob(options, makeJob(QDir(dir.path()), 500), Existing::Replace, 2);
+        std::printf(
+            "%ld %ld %s\n", before, peakKiB(), result.ok() ? "ok" : qPrintable(result.message));
+        return 0;
+    }
+
+    // Sections to run: overhead, parallel, memory; all when none is named.
+    const auto wanted = [&](const char *section) {
+        return arguments.size() == 1 || arguments.contains(QLatin1String(section));
+    };
+    const QString job10 = makeJob(QDir(dir.path()), 10), job100 = makeJob(QDir(dir.path()), 100);
+    const Case overheadCases[] = {
+        {"PNG 150 dpi", "png", [](Options &o) { o.dpi = 150; }},
+        {"TIFF LZW one file 150 dpi", "tif", [](Options &o) { o.dpi = 150; }},
+        {"PDF, info + AES-128", "pdf",
+            [](Options &o) {
+                o.pdf.title = "T";
+                o.pdf.protect = true;
+                o.pdf.userPassword = "u";
+            }},
+        {"RTF", "rtf", [](Options &) {}},
+    };
+    std::printf("Plan overhead: a job through renderJob against the same commands (page count "
+                "included) run by hand one after another, 1 core each\n");
+    std::printf("%-28s %6s %9s %9s %7s %12s\n", "format", "pages", "hand s", "plan s", "ratio",
+        "plan 2 cores");
+    for (const Case &c : overheadCases) {
+        if (!wanted("overhead"))
+            break;
+        for (const auto &[job, pages] : {std::pair {job10, 10}, std::pair {job100, 100}}) {
+            Options options = optionsFor(c.token, out);
+            c.adjust(options);
+            // Short jobs are run several times side by side, and the medians compared.
+            QList<double> hands {byHand(options, job, pages)}, plans {planned(options, job, 1)};
+            while (hands.first() < 2.0 && hands.size() < 9) {
+                hands << byHand(options, job, pages);
+                plans << planned(options, job, 1);
+            }
+            const double hand = median(hands), plan = median(plans);
+            const double two = planned(options, job, 2);
+            std::printf("%-28s %6d %9.2f %9.2f %7.3f %12.2f\n", c.label, pages, hand, plan,
+                plan / hand, two);
+            std::fflush(stdout);
+        }
+    }
+
+    const Case perPageCases[] = {
+        {"JPEG 2000 300 dpi", "jp2", [](Options &) {}},
+        {"GIF 256 colours 300 dpi", "gif", [](Options &o) { o.colorCode = "8"; }},
+        {"DjVu a file per page 300 dpi", "djvu", [](Options &o) { o.multipageDjvu = false; }},
+        {"DjVu one file 300 dpi", "djvu", [](Options &) {}},
+    };
+    std::printf(
+        "\nPer-page tools, 10 pages: one process at a time against one per core (2 cores)\n");
+    std::printf("%-30s %9s %9s %8s\n", "format", "1 core s", "2 cores s", "speedup");
+    for (const Case &c : perPageCases) {
+        if (!wanted("parallel"))
+            break;
+        Options options = optionsFor(c.token, out);
+        c.adjust(options);
+        const double one = planned(options, job10, 1);
+        const double two = planned(options, job10, 2);
+        std::printf("%-30s %9.2f %9.2f %8.2f\n", c.label, one, two, one / two);
+        std::fflush(stdout);
+    }
+
+    std::printf(
+        "\nPeak resident memory of the rendering process, 500-page job (tools not counted)\n");
+    std::printf("%-34s %10s %10s\n", "format", "start MiB", "peak MiB");
+    const struct
+    {
+        const char *label;
+        const char *token;
+        const char *dpi;
+    } memoryCases[] = {
+        {"SWF, one file, 96 dpi pages", "swf", "300"},
+        {"HTML page images, one file", "htm", "300"},
+        {"TIFF G4, one file", "tif", "300"},
+        {"PDF", "pdf", "300"},
+        {"MS Excel", "msxml", "300"},
+    };
+    for (const auto &memoryCase : memoryCases) {
+        if (!wanted("memory"))
+            break;
+        QProcess child;
+        child.start(arguments.first(), {"--memory", memoryCase.token, memoryCase.dpi});
+        child.waitForFinished(-1);
+        const QStringList figures
+            = QString::fromLocal8Bit(child.readAllStandardOutput()).split(' ');
+        std::printf("%-34s %10.1f %10.1f %s", memoryCase.label, figures.value(0).toDouble() / 1024,
+            figures.value(1).toDouble() / 1024, qPrintable(figures.value(2)));
+        std::fflush(stdout);
+    }
+    return 0;
+}
