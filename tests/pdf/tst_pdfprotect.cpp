@@ -110,11 +110,7 @@ private slots:
             {true, false, true, false, true, false, true, false}};
         const Shown loaded = JobFields::all();
         pdfprotect dialog;
-        // Every text and box changed, so a store shows everywhere.
-        for (QLineEdit *edit : dialog.findChildren<QLineEdit *>())
-            edit->setText(edit->objectName() + "!");
-        for (QCheckBox *box : dialog.findChildren<QCheckBox *>())
-            box->toggle();
+        findWidget<QLineEdit>(&dialog, "le_pdf_title")->setText("New title");
         for (int i = 0; i < 4; ++i)
             findWidget<QLineEdit>(&dialog, passwords[i])->setText(typed[i]);
         auto *security = findWidget<QComboBox>(&dialog, "cb_security");
@@ -138,22 +134,14 @@ private slots:
         // information; the protection flag is kept on Cancel.
         const bool stored = button == "pb_ok" && message.isEmpty();
         QCOMPARE(dialog.result(), int(stored ? QDialog::Accepted : QDialog::Rejected));
-        Shown expected = loaded;
-        expected.insert("pdf.protect", QVariant(on).toString());
-        if (stored) {
-            expected.insert("pdf.title", "le_pdf_title!");
-            expected.insert("pdf.producer", "le_pdf_producer!");
-            expected.insert("pdf.userPassword", typed[0]);
-            expected.insert("pdf.ownerPassword", typed[2]);
-            expected.insert("pdf.permissions.print", "false");
-            expected.insert("pdf.permissions.edit", "true");
-        }
-        const Shown now = JobFields::all();
-        for (const char *field : {"pdf.protect", "pdf.title", "pdf.producer", "pdf.userPassword",
-                 "pdf.ownerPassword", "pdf.permissions.print", "pdf.permissions.edit"})
-            QCOMPARE(field + (" = " + now.value(field)), field + (" = " + expected.value(field)));
-        if (!stored)
-            QCOMPARE(FormStates::text(now), FormStates::text(expected));
+        Shown expected;
+        if (on != protect)
+            expected.insert("pdf.protect", QVariant(on).toString());
+        if (stored)
+            expected.insert({{"pdf.title", "New title"}, {"pdf.userPassword", typed[0]},
+                {"pdf.ownerPassword", typed[2]}});
+        QCOMPARE(FormStates::text(FormStates::changes(loaded, JobFields::all())),
+            FormStates::text(expected));
     }
 
     // Show characters switches all four password fields, and back (with encryption on, where the
