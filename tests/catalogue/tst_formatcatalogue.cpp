@@ -52,8 +52,8 @@ private slots:
         QCOMPARE(Formats::filterText(*format, QLatin1String(format->defaultExtension)), filter);
     }
 
-    // The first occurrence of the program's name is replaced, wherever it stands; when it is not
-    // found, only the last character goes, so the converter is not found.
+    // Driver contract: the first occurrence of the program's name is replaced, wherever it stands;
+    // when it is not found, only the last character goes, so the converter is not found.
     void converterPath_data()
     {
         QTest::addColumn<QString>("program");

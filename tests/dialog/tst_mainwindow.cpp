@@ -58,36 +58,39 @@ private slots:
     void cleanup() { w.reset(); }
 
     // The form as its build operation leaves it: the main blocks, and the texts with deliberate
-    // blanks, quotes or wording.
+    // blanks, quotes or wording at their places. How wide a text is, is the text-fit suite's.
     void form_data()
     {
         QTest::addColumn<QString>("className");
         QTest::addColumn<QString>("parent");
-        QTest::addColumn<QRect>("geometry");
+        QTest::addColumn<QPoint>("position");
+        QTest::addColumn<QSize>("size"); // invalid: as wide as its text needs
         QTest::addColumn<QString>("text"); // text or title; null: none
+        const QSize fitted;
         // clang-format off
-        QTest::newRow("groupBox_2")      << "QGroupBox"    << "centralWidget" << QRect(10, 10, 471, 101)  << "File Name";
-        QTest::newRow("groupBox_3")      << "QGroupBox"    << "centralWidget" << QRect(10, 120, 471, 91)  << "Enabled";
-        QTest::newRow("tabWidget")       << "QTabWidget"   << "centralWidget" << QRect(10, 230, 471, 191) << QString();
-        QTest::newRow("pb_print")        << "QPushButton"  << "centralWidget" << QRect(310, 450, 83, 25)  << "Print";
-        QTest::newRow("pb_cancel")       << "QPushButton"  << "centralWidget" << QRect(400, 450, 83, 25)  << "Cancel Print";
-        QTest::newRow("cd_dialog")       << "QCheckBox"    << "centralWidget" << QRect(10, 450, 171, 24)  << "Show this dialog next time";
-        QTest::newRow("le_filename")     << "QLineEdit"    << "groupBox_2"    << QRect(10, 60, 411, 20)   << "";
-        QTest::newRow("rb_pefix_1")      << "QRadioButton" << "groupBox_2"    << QRect(10, 20, 211, 24)   << "Add \"1\" to first file name";
-        QTest::newRow("le_pr_custom")    << "QLineEdit"    << "groupBox_2"    << QRect(340, 20, 101, 20)  << "1";
-        QTest::newRow("ch_email")        << "QCheckBox"    << "groupBox_3"    << QRect(20, 50, 111, 24)   << "Send to EMail";
-        QTest::newRow("label_9")         << "QLabel"       << "tab_4"         << QRect(10, 40, 151, 18)   << "Quality of Image compression ";
-        QTest::newRow("label_11")        << "QLabel"       << "tab_2"         << QRect(10, 40, 151, 18)   << "Quality of image ";
-        QTest::newRow("ch_swf_protect")  << "QGroupBox"    << "tab_2"         << QRect(290, 40, 141, 61)  << " Protect SWF";
-        QTest::newRow("label_17")        << "QLabel"       << "tab_11"        << QRect(10, 40, 121, 18)   << "Quality of Image  ";
-        QTest::newRow("label_16")        << "QLabel"       << "tab_12"        << QRect(10, 10, 171, 18)   << "Print As MS Office  Excel";
+        QTest::newRow("groupBox_2")     << "QGroupBox"    << "centralWidget" << QPoint(10, 10)   << QSize(471, 101) << "File Name";
+        QTest::newRow("groupBox_3")     << "QGroupBox"    << "centralWidget" << QPoint(10, 120)  << QSize(471, 91)  << "Enabled";
+        QTest::newRow("tabWidget")      << "QTabWidget"   << "centralWidget" << QPoint(10, 230)  << QSize(471, 191) << QString();
+        QTest::newRow("pb_print")       << "QPushButton"  << "centralWidget" << QPoint(310, 450) << QSize(83, 25)   << "Print";
+        QTest::newRow("pb_cancel")      << "QPushButton"  << "centralWidget" << QPoint(400, 450) << QSize(83, 25)   << "Cancel Print";
+        QTest::newRow("cd_dialog")      << "QCheckBox"    << "centralWidget" << QPoint(10, 450)  << fitted          << "Show this dialog next time";
+        QTest::newRow("le_filename")    << "QLineEdit"    << "groupBox_2"    << QPoint(10, 60)   << QSize(411, 20)  << "";
+        QTest::newRow("rb_pefix_1")     << "QRadioButton" << "groupBox_2"    << QPoint(10, 20)   << fitted          << "Add \"1\" to first file name";
+        QTest::newRow("le_pr_custom")   << "QLineEdit"    << "groupBox_2"    << QPoint(340, 20)  << QSize(101, 20)  << "1";
+        QTest::newRow("ch_email")       << "QCheckBox"    << "groupBox_3"    << QPoint(20, 50)   << fitted          << "Send to EMail";
+        QTest::newRow("label_9")        << "QLabel"       << "tab_4"         << QPoint(10, 40)   << fitted          << "Quality of Image compression ";
+        QTest::newRow("label_11")       << "QLabel"       << "tab_2"         << QPoint(10, 40)   << fitted          << "Quality of image ";
+        QTest::newRow("ch_swf_protect") << "QGroupBox"    << "tab_2"         << QPoint(290, 40)  << fitted          << " Protect SWF";
+        QTest::newRow("label_17")       << "QLabel"       << "tab_11"        << QPoint(10, 40)   << fitted          << "Quality of Image  ";
+        QTest::newRow("label_16")       << "QLabel"       << "tab_12"        << QPoint(10, 10)   << fitted          << "Print As MS Office  Excel";
         // clang-format on
     }
     void form()
     {
         QFETCH(QString, className);
         QFETCH(QString, parent);
-        QFETCH(QRect, geometry);
+        QFETCH(QPoint, position);
+        QFETCH(QSize, size);
         QFETCH(QString, text);
         QMainWindow host;
         Ui::MainWindow ui;
@@ -95,7 +98,9 @@ private slots:
         const QWidget *widget = findWidget(&host, QTest::currentDataTag());
         QCOMPARE(widget->metaObject()->className(), className);
         QCOMPARE(widget->parentWidget()->objectName(), parent);
-        QCOMPARE(widget->geometry(), geometry);
+        QCOMPARE(widget->pos(), position);
+        if (size.isValid())
+            QCOMPARE(widget->size(), size);
         QCOMPARE(widget->property(widget->property("text").isValid() ? "text" : "title").toString(),
             text);
     }
@@ -162,10 +167,10 @@ private slots:
             w->part<QComboBox>("cb_combobox")->setCurrentText(picked);
         w->tabs()->setCurrentIndex(index);
         QCOMPARE(coloursShown(), colours);
-        for (const auto &[name, place] : {std::pair("cd_extract_text", QRect(10, 130, 171, 24)),
-                 std::pair("gb_color", QRect(290, 110, 141, 51))}) {
+        for (const auto &[name, place] : {std::pair("cd_extract_text", QPoint(10, 130)),
+                 std::pair("gb_color", QPoint(290, 110))}) {
             QCOMPARE(w->part(name)->parentWidget(), w->tabs()->currentWidget());
-            QCOMPARE(w->part(name)->geometry(), place);
+            QCOMPARE(w->part(name)->pos(), place);
         }
         QVERIFY(w->part("cd_extract_text")->isVisible());
     }
@@ -230,7 +235,8 @@ private slots:
         QCOMPARE(jobSettings().colorCode, "8");
     }
 
-    // The custom number field follows the prefix buttons' clicks, not their checked state.
+    // Driver contract: the custom number field follows the prefix buttons' clicks, not their
+    // checked state.
     void prefixButtons_data()
     {
         QTest::addColumn<QStringList>("clicked");

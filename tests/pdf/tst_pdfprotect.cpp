@@ -76,7 +76,8 @@ private slots:
     }
 
     // Both pairs are compared, user pair first, also with encryption off; only a match stores.
-    // The protection flag is written as soon as the combo box changes, so Cancel keeps it.
+    // Driver contract: the protection flag is written as soon as the combo box changes, so Cancel
+    // keeps it.
     void okAndCancel_data()
     {
         QTest::addColumn<bool>("protect"); // the job's protection flag before

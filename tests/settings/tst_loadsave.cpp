@@ -112,7 +112,7 @@ private slots:
         row("multipage_pdf",    MultipagePdf,  Pdf,  "ch_multipage_pdf",  "checked",   "false", {{"ch_multipage_pdf", "unchecked"}}, {{"multipage_pdf", "false"}});
         row("multipage_htm",    MultipageHtm,  Html, "ch_multipage_htm",  "checked",   "false", {{"ch_multipage_htm", "unchecked"}}, {{"multipage_htm", "false"}});
         row("multipage_djvu",   MultipageDjvu, Djvu, "ch_multipage_djvu", "checked",   "false", {{"ch_multipage_djvu", "unchecked"}}, {{"multipage_djvu", "false"}});
-        // The extensions are only ever read; the HTML and MS Excel defaults differ from their tokens.
+        // Driver contract: the extensions are only ever read; HTML and MS Excel differ from their tokens.
         row("ext_htm",   ExtHtm,   Bmp, "extensions[Formats::Html]",     "html", "xhtml", {{"extensions[Formats::Html]", "xhtml"}}, {});
         row("ext_bmp",   ExtBmp,   Bmp, "extensions[Formats::Bmp]",      "bmp",  "dib",   {{"extensions[Formats::Bmp]", "dib"}}, {});
         row("ext_png",   ExtPng,   Bmp, "extensions[Formats::Png]",      "png",  "apng",  {{"extensions[Formats::Png]", "apng"}}, {});
@@ -129,11 +129,11 @@ private slots:
         row("htm_text",         HtmText,       Html, "rb_htm_text",       "checked",   "false", {{"rb_htm_text", "unchecked"}}, {{"htm_text", "false"}});
         row("swf_text",         SwfText,       Swf,  "rb_swf_text",       "checked",   "false", {{"rb_swf_text", "unchecked"}}, {{"swf_text", "false"}});
         row("swf_animate",      SwfAnimate,    Swf,  "ch_swf_animate",    "unchecked", "true",  {{"ch_swf_animate", "checked"}}, {{"swf_animate", "true"}});
-        // "pw" scrambled is p, 'p' - 0, w, 'w' - 1. Typed with the protection off, the stored
-        // password is kept; switched on, both values follow.
+        // "pw" scrambled is p, 'p' - 0, w, 'w' - 1. Driver contract: typed with the protection
+        // off, the stored password is kept; switched on, both values follow.
         row("protect_swf",      ProtectSwf,    Swf,  "le_swf_protect",    "",          "ppwv",  {{"le_swf_protect", "pw"}}, {{"protect_swf", notWritten}});
         row("b_protect_swf",    BProtectSwf,   Swf,  "ch_swf_protect",    "unchecked", "true",  {{"le_swf_protect", "pw"}, {"ch_swf_protect", "checked"}}, {{"b_protect_swf", "true"}, {"protect_swf", "ppwv"}}, SettingsScope::User, "protect_swf=ppwv");
-        // Read as "path" and written as "Path", the driver's own spellings.
+        // Driver contract: read as "path" and written as "Path".
         row("path",             PathRead,      Bmp,  "le_filename",       "Document1", "/out/", {{"le_filename", "/out/Document1"}, {"outputFolder", "/out/"}}, {{"Path", "/out/"}});
         row("pdf_title",        PdfTitle,      Bmp,  "pdf.title",         "",          "Title",    {{"pdf.title", "Title"}}, {{"pdf_title", "Title"}});
         row("pdf_author",       PdfAuthor,     Bmp,  "pdf.author",        "",          "Author",   {{"pdf.author", "Author"}}, {{"pdf_author", "Author"}});
@@ -154,7 +154,7 @@ private slots:
         // "ow" scrambled is o, 'o' - 0, w, 'w' - 1.
         row("pdf_user_pw",      PdfUserPw,     Bmp, "pdf.userPassword",  "", "ppwv", {{"pdf.userPassword", "pw"}}, {{"pdf_user_pw", "ppwv"}});
         row("pdf_owner_pw",     PdfOwnerPw,    Bmp, "pdf.ownerPassword", "", "oowv", {{"pdf.ownerPassword", "ow"}}, {{"pdf_owner_pw", "oowv"}});
-        // The only typed boolean; its eight companions are flag texts.
+        // Driver contract: the only typed boolean; its eight companions are flag texts.
         row("pdf_protect",             PdfProtect,            Bmp, "pdf.protect",                 "false", "true", {{"pdf.protect", "true"}}, {{"pdf_protect", true}});
         row("pdf_protect_print",       PdfProtectPrint,       Bmp, "pdf.permissions.print",       "false", "true", {{"pdf.permissions.print", "true"}}, {{"pdf_protect_print", "true"}});
         row("pdf_protect_edit",        PdfProtectEdit,        Bmp, "pdf.permissions.edit",        "false", "true", {{"pdf.permissions.edit", "true"}}, {{"pdf_protect_edit", "true"}});
@@ -236,16 +236,16 @@ private slots:
         row("nothing stored",     "",            "", {{"formatToken", "tif"}, {"tabWidget", "4"}, {"rb_1", "checked"}, {"cb_combobox", "TrueColor"}, {"colorCode", "24"}});
         row("capital PDF",        "format=PDF",  "", {{"formatToken", "jpg"}, {"tabWidget", "2"}});
         row("djvu, no converter", "format=djvu", "", {{"formatToken", "jpg"}, {"tabWidget", "2"}, {"selectedFilter", "JPEG Format (*.jpg)"}}, false);
-        // The DjVu page is asked for as index 12, which the tab widget ignores.
+        // Driver contract: the DjVu page is asked for as index 12, which the tab widget ignores.
         row("djvu, converter",    "format=djvu", "", {{"formatToken", "djvu"}, {"tabWidget", "6"}, {"selectedFilter", "DjVu Format (*.djvu)"}});
         // The colour row follows the page's list; a row beyond it is left to the combo box.
         row("tif JPEG 8", "format=tif\nformat_ext=JPEG\nimage_color=8", "", {{"colour list", "Grayscale, TrueColor"}, {"cb_combobox", "TrueColor"}, {"colorCode", "8"}});
         row("bmp 24g",    "format=bmp\nimage_color=24g",                "", {{"colour list", "Monochrome, 256 colors, Grayscale, TrueColor"}, {"cb_combobox", "Grayscale"}, {"colorCode", "24g"}});
         row("gif 24",     "format=gif\nimage_color=24",                 "", {{"colour list", "Monochrome, 256 colors, Grayscale"}, {"cb_combobox", ""}, {"colorCode", "24"}});
-        // SWF is current from the start: the list keeps the form's order TrueColor, Grayscale.
+        // Driver contract: SWF is current from the start, the list in the form's order.
         row("swf 24g",    "format=swf\nimage_color=24g",                "", {{"colour list", "TrueColor, Grayscale"}, {"cb_combobox", "TrueColor"}, {"colorCode", "24g"}});
         row("swf 24",     "format=swf\nimage_color=24",                 "", {{"colour list", "TrueColor, Grayscale"}, {"cb_combobox", "Grayscale"}, {"colorCode", "24g"}});
-        // Switches are converted, except two compared with "true" exactly.
+        // Driver contract: switches are converted, except two compared with "true" exactly.
         row("TRUE",  "multipage_pdf=TRUE\nload_ext_app=TRUE\npdf_protect=TRUE\nextract_text=TRUE\nchDialog_SaveAs=TRUE", "", {{"ch_multipage_pdf", "checked"}, {"ch_exe", "checked"}, {"pdf.protect", "true"}, {"cd_extract_text", "unchecked"}, {"saveAsOnly", "false"}});
         row("FaLsE", "multipage_pdf=FaLsE\nload_ext_app=FaLsE\npdf_protect=FaLsE", "", {{"ch_multipage_pdf", "unchecked"}, {"ch_exe", "unchecked"}, {"pdf.protect", "false"}});
         row("0",     "multipage_pdf=0\nload_ext_app=0\npdf_protect=0",             "", {{"ch_multipage_pdf", "unchecked"}, {"ch_exe", "unchecked"}, {"pdf.protect", "false"}});
@@ -283,8 +283,8 @@ private slots:
         QVERIFY2(writes.isEmpty(), "loading wrote a value");
     }
 
-    // Switched on by an earlier load in the same run, the SWF animation and the save-as-only mode
-    // stay on; an ordinary switch follows the key.
+    // Driver contract: switched on by an earlier load in the same run, the SWF animation and the
+    // save-as-only mode stay on; an ordinary switch follows the key.
     void oneSidedSwitches()
     {
         writeKey(m_job->userFile(), "swf_animate=true\nchDialog_SaveAs=true\nmultipage_tiff=true");
@@ -315,12 +315,13 @@ private slots:
         QTest::newRow("pdf")           << int(Pdf)  << true << false << "" << true << false << QStringList{"q_pdf", "multipage_pdf", "pdf_text", "format"};
         QTest::newRow("html")          << int(Html) << true << false << "" << true << false << QStringList{"q_htm", "format", "multipage_htm", "htm_text"};
         QTest::newRow("djvu")          << int(Djvu) << true << false << "" << true << false << QStringList{"format", "multipage_djvu"};
-        // "true" is never written for the dialog switch; with all users both keys get one save.
+        // Driver contract: "true" is never written for the dialog switch. With all users both
+        // keys get one save.
         QTest::newRow("bmp, no dialog") << int(Bmp) << true << false << "" << false << false << QStringList{"chDialog", "format"};
         QTest::newRow("bmp, all users") << int(Bmp) << true << false << "" << true  << true  << QStringList{"format"};
         QTest::newRow("tiff, none")     << int(Tiff) << false << false << "" << true << false << QStringList{"q_tif", "multipage_tiff", "format"};
-        // An empty password is written empty even when protected; with the protection off a
-        // typed one leaves the stored one.
+        // Driver contract: an empty password is written empty even when protected; with the
+        // protection off a typed one leaves the stored one.
         QTest::newRow("swf, no pw")    << int(Swf) << true << true  << ""   << true << false << QStringList{"q_swf", "multipage_swf", "swf_text", "swf_animate", "b_protect_swf", "protect_swf", "protect_swf", "format"};
         QTest::newRow("swf off, pw")   << int(Swf) << true << false << "pw" << true << false << QStringList{"q_swf", "multipage_swf", "swf_text", "swf_animate", "b_protect_swf", "format"};
         // clang-format on
