@@ -112,13 +112,22 @@ void Agent::scan()
         // No job was ever spooled: wait for the backend to create the folder.
         if (m_once)
             return stop(0);
-        return watch(m_spool.stamp());
+        if (!watch(m_spool.stamp())) {
+            m_notifier.tell(QStringLiteral("Vellumio cannot wait for print jobs"),
+                m_spool.stamp() + QStringLiteral(" is missing: install the printer again"));
+            return stop(1);
+        }
+        return;
     case SpoolFolder::State::NoRoot:
     case SpoolFolder::State::Foreign:
         m_notifier.tell(QStringLiteral("Vellumio stopped taking print jobs"), why);
         return stop(1);
     }
-    watch(m_spool.path());
+    if (!watch(m_spool.path()) && !m_once) {
+        m_notifier.tell(QStringLiteral("Vellumio stopped taking print jobs"),
+            QStringLiteral("the spool folder cannot be watched: ") + m_spool.path());
+        return stop(1);
+    }
     const QStringList jobs = m_spool.pendingJobs();
     if (!jobs.isEmpty())
         takeJob(jobs.first());
@@ -126,14 +135,14 @@ void Agent::scan()
         stop(0);
 }
 
-void Agent::watch(const QString &path)
+bool Agent::watch(const QString &path)
 {
     const QStringList watched = m_watcher.files() + m_watcher.directories();
     if (watched == QStringList {path})
-        return;
+        return true;
     if (!watched.isEmpty())
         m_watcher.removePaths(watched);
-    m_watcher.addPath(path);
+    return m_watcher.addPath(path);
 }
 
 void Agent::takeJob(const QString &name)

@@ -53,7 +53,7 @@ private:
 
     void scheduleScan();
     void scan();
-    void watch(const QString &path);
+    bool watch(const QString &path);
     void takeJob(const QString &name);
     void showDialog();
     void dialogFinished(bool started, bool exitedNormally);

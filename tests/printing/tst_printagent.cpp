@@ -1,0 +1,542 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The backend and the agent run for real as throwaway users, without a scheduler: who may spool
+// and where, twenty jobs at once, agents and dialogs killed, hostile titles, failures the user is
+// told of, and passwords kept off command lines. The dialog is the real program with a scripted
+// user (scripteddialog.cpp); rendering is the real one.
+#include "agent/jobrules.h"
+#include "settings/passwordscrambling.h"
+#include "tests/printing/printharness.h"
+
+#include <QDBusConnection>
+#include <QDirIterator>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+#include <optional>
+
+#include <sys/mount.h>
+
+using namespace PrintHarness;
+
+namespace {
+
+// How a spool is prepared before the backend and then the agent meet it.
+enum class Spool {
+    Plain,
+    UnknownUser,
+    SystemUser,
+    LinkedFolder,
+    ForeignFolder,
+    OpenFolder,
+    OpenRoot,
+    FullDisk
+};
+// What goes wrong with the first of two jobs.
+enum class Fault { DamagedDocument, IncompleteJob, FolderGone, DiskFull, DialogMissing };
+
+// Plays the desktop's notification service on a private session bus and keeps what it is told.
+class NotificationService : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+public slots:
+    uint Notify(const QString &, uint, const QString &, const QString &summary, const QString &body,
+        const QStringList &, const QVariantMap &, int)
+    {
+        received += summary + QLatin1Char(' ') + body;
+        return uint(received.size());
+    }
+
+public:
+    QStringList received;
+};
+
+// A small file system of its own, so that a disk fills up; unmounted however the test ends.
+struct SmallDisk
+{
+    SmallDisk(const QString &at, const QString &options)
+        : path(QFile::encodeName(at))
+        , mounted(::mount("tmpfs", path, "tmpfs", 0, options.toLatin1().constData()) == 0)
+    { }
+    ~SmallDisk()
+    {
+        if (mounted)
+            ::umount(path);
+    }
+    QByteArray path;
+    bool mounted;
+};
+
+QStringList entries(const QString &folder)
+{
+    return QDir(folder).entryList(
+        QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+// Processes whose first command-line word is `program`, and every command line seen.
+QList<int> processesOf(const QString &program, QStringList *commandLines = nullptr)
+{
+    QList<int> found;
+    const QStringList pids = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
+    for (const QString &pid : pids) {
+        QFile file(QStringLiteral("/proc/") + pid + QStringLiteral("/cmdline"));
+        const QByteArray line = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        if (commandLines && !line.isEmpty())
+            *commandLines += QString::fromUtf8(line).replace(QChar(0), QChar(' '));
+        if (!program.isEmpty() && line.startsWith(program.toUtf8() + '\0'))
+            found += pid.toInt();
+    }
+    return found;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Spool)
+Q_DECLARE_METATYPE(Fault)
+
+class tst_PrintAgent : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        if (::geteuid() != 0)
+            QSKIP("needs root: throwaway users, a backend that drops to them, other users' files");
+        removeStaleUsers();
+        QVERIFY(m_dir.isValid() && ::chmod(QFile::encodeName(m_dir.path()), 0711) == 0);
+        m_ann = std::make_unique<ThrowawayUser>('a', m_dir.path());
+        m_bob = std::make_unique<ThrowawayUser>('b', m_dir.path());
+        QVERIFY(m_ann->uid && m_bob->uid);
+        // A copy of the agent finds the scripted dialog beside it as its "fmtask".
+        QVERIFY(QDir().mkpath(path("bin")) && QFile::copy(VELLUMIO_AGENT, agent()));
+        QVERIFY(QFile::link(SCRIPTED_DIALOG, path("bin/fmtask")));
+        // The spool root as the installation leaves it.
+        QVERIFY(QDir().mkpath(m_spool) && ::chmod(QFile::encodeName(m_spool), 0711) == 0);
+        QVERIFY(writeFile(m_spool + "/folders.stamp", QByteArray()));
+        m_out = m_ann->home + "/out";
+        QVERIFY(m_ann->makeFolder(m_out, 0700));
+        // The session bus lets every user in: the agent is ann's, the listening service root's.
+        QVERIFY(writeFile(path("bus.conf"),
+            "<busconfig><type>session</type><listen>unix:path=" + path("bus").toUtf8()
+                + "</listen><auth>EXTERNAL</auth><policy context=\"default\"><allow user=\"*\"/>"
+                  "<allow own=\"*\"/><allow send_destination=\"*\"/><allow receive_sender=\"*\"/>"
+                  "</policy></busconfig>"));
+        startAs(m_bus, nullptr, QStringLiteral("dbus-daemon"),
+            {QStringLiteral("--nofork"), QStringLiteral("--config-file=") + path("bus.conf"),
+                QStringLiteral("--print-address=1")},
+            QProcessEnvironment::systemEnvironment());
+        QVERIFY(m_bus.waitForReadyRead(10000));
+        const QString address = QString::fromUtf8(m_bus.readLine().trimmed());
+        QDBusConnection bus = QDBusConnection::connectToBus(address, QStringLiteral("desktop"));
+        QVERIFY(bus.registerService(QStringLiteral("org.freedesktop.Notifications")));
+        QVERIFY(bus.registerObject(QStringLiteral("/org/freedesktop/Notifications"),
+            &m_notifications, QDBusConnection::ExportAllSlots));
+        m_session = m_ann->session(QStringLiteral("offscreen"), m_spool);
+        m_session.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), address);
+        m_session.insert(QStringLiteral("VELLUMIO_DIALOG_LOG"), m_ann->home + "/dialog.log");
+    }
+
+    // Before each test: an empty output folder, queue and log; PDF output; the dialog shown.
+    void init()
+    {
+        for (const QString &name : entries(m_out))
+            QFile::remove(m_out + '/' + name);
+        QDir(m_spool + '/' + QString::number(m_ann->uid)).removeRecursively();
+        QFile::remove(m_ann->home + "/dialog.log");
+        QFile::remove(m_ann->settingsFile());
+        settings({{"path", m_out + '/'}, {"format", "pdf"}});
+        m_notifications.received.clear();
+    }
+    void cleanup()
+    {
+        m_agent.kill();
+        m_agent.waitForFinished();
+    }
+
+    // A job is never shown to, readable by or written as another user.
+    void spoolFolders_data()
+    {
+        QTest::addColumn<Spool>("spool");
+        QTest::addColumn<int>("backendStatus"); // CUPS's: 0 ok, 1 failed, 5 cancel, 6 retry
+        QTest::addColumn<int>("agentStatus"); // 0 done, 1 refused
+        QTest::addColumn<int>("shown"); // dialogs the agent showed
+
+        // clang-format off
+        QTest::newRow("own user")              << Spool::Plain         << 0 << 0 << 1;
+        QTest::newRow("unknown user")          << Spool::UnknownUser   << 5 << 0 << 0;
+        QTest::newRow("system account")        << Spool::SystemUser    << 5 << 0 << 0;
+        QTest::newRow("folder is a link")      << Spool::LinkedFolder  << 5 << 1 << 0;
+        QTest::newRow("folder of another")     << Spool::ForeignFolder << 5 << 1 << 0;
+        QTest::newRow("folder open to others") << Spool::OpenFolder    << 5 << 1 << 0;
+        QTest::newRow("root open to others")   << Spool::OpenRoot      << 1 << 1 << 0;
+        QTest::newRow("disk full")             << Spool::FullDisk      << 6 << 0 << 0;
+        // clang-format on
+    }
+    void spoolFolders()
+    {
+        QFETCH(Spool, spool);
+        QFETCH(int, backendStatus);
+        QFETCH(int, agentStatus);
+        QFETCH(int, shown);
+        const QString root = path(QStringLiteral("rows/") + QTest::currentDataTag());
+        const QString folder = root + '/' + QString::number(m_ann->uid);
+        QVERIFY(QDir().mkpath(root));
+        const QString elsewhere = root + ".elsewhere";
+        std::optional<SmallDisk> disk;
+        if (spool == Spool::FullDisk)
+            QVERIFY(disk.emplace(root, "size=256k,mode=0711").mounted);
+        if (spool == Spool::OpenRoot)
+            ::chmod(QFile::encodeName(root), 0775);
+        if (spool == Spool::LinkedFolder)
+            QVERIFY(m_ann->makeFolder(elsewhere, 0700) && QFile::link(elsewhere, folder));
+        if (spool == Spool::ForeignFolder)
+            QVERIFY(m_bob->makeFolder(folder, 0700));
+        if (spool == Spool::OpenFolder)
+            QVERIFY(m_ann->makeFolder(folder, 0755));
+        const QString user = spool == Spool::UnknownUser ? QStringLiteral("nosuchuser")
+            : spool == Spool::SystemUser                 ? QStringLiteral("daemon")
+                                                         : m_ann->name;
+        const QByteArray document
+            = pdfs({"private"})
+                  .value(0)
+                  .leftJustified(spool == Spool::FullDisk ? 1 << 20 : 0, '\n');
+        const int spoolStatus = spoolJob(root, user, "private", document);
+        QCOMPARE(spoolStatus, backendStatus);
+
+        const QStringList jobs = entries(folder);
+        if (backendStatus == 0) {
+            QCOMPARE(jobs.size(), 1);
+            const QString job = folder + '/' + jobs.first();
+            for (const QString &file : {folder, job, job + "/job.pdf", job + "/job.info"}) {
+                struct stat info;
+                QVERIFY(::lstat(QFile::encodeName(file), &info) == 0);
+                QCOMPARE(info.st_uid, m_ann->uid);
+                QCOMPARE(info.st_mode & 0077, 0u);
+            }
+            QVERIFY(runAs(m_bob.get(), "cat", {job + "/job.pdf"}, m_session) != 0);
+        } else {
+            QVERIFY(jobs.isEmpty() && entries(elsewhere).isEmpty());
+            // The agent must not take a job planted where the backend would refuse to write.
+            if (spool != Spool::FullDisk && QFileInfo::exists(folder))
+                plantJob(QFileInfo(folder).canonicalFilePath());
+        }
+        QProcessEnvironment session = m_session;
+        session.insert("VELLUMIO_SPOOL", root);
+        const int agentRan = runAgent({"--once"}, session);
+        qInfo("backend status %d, agent status %d, dialogs shown %lld", spoolStatus, agentRan,
+            qlonglong(dialogLog().count("open ")));
+        QCOMPARE(agentRan, agentStatus);
+        QCOMPARE(dialogLog().count("open "), shown);
+    }
+
+    // Printed at once, the jobs come one dialog after another, each result from its own job.
+    void twentyJobsAtOnce()
+    {
+        startAgent(m_agent);
+        QList<QByteArray> texts;
+        for (int i = 1; i <= 20; ++i)
+            texts += "job " + QByteArray::number(i).rightJustified(2, '0');
+        const QList<QByteArray> documents = pdfs(texts);
+        QList<QProcess *> backends;
+        for (int i = 0; i < 20; ++i) {
+            backends += new QProcess(this);
+            writeFile(path("in") + QString::number(i), documents[i]);
+            startAs(*backends.last(), nullptr, VELLUMIO_BACKEND,
+                {QString::number(i + 1), m_ann->name, texts[i], "1", "",
+                    path("in") + QString::number(i)},
+                backendEnvironment(m_spool));
+        }
+        for (QProcess *backend : backends)
+            QVERIFY(backend->waitForFinished() && backend->exitCode() == 0);
+        QTRY_COMPARE_WITH_TIMEOUT(entries(m_out).size(), 20, 60000);
+        int ownResults = 0, inTurn = 0;
+        for (const QByteArray &text : texts) {
+            QByteArray read;
+            runAs(nullptr, "pdftotext", {m_out + '/' + text + ".pdf", "-"}, m_session, &read);
+            ownResults += read.trimmed() == text;
+        }
+        // Each dialog closes before the next one opens.
+        const QList<QByteArray> lines = dialogLog().trimmed().split('\n');
+        for (qsizetype i = 0; i + 1 < lines.size(); i += 2)
+            inTurn += lines[i].startsWith("open ") && lines[i + 1] == "close" + lines[i].mid(4);
+        QTRY_VERIFY(jobsIn(m_spool).isEmpty());
+        qInfo("%d jobs printed at once: %d dialogs one after another, %d results each from its own "
+              "job, %lld left in the spool",
+            int(texts.size()), inTurn, ownResults, qlonglong(jobsIn(m_spool).size()));
+        QCOMPARE(ownResults, 20);
+        QCOMPARE(inTurn, 20);
+        // A second agent of the same user leaves the work to the first.
+        QCOMPARE(runAgent({}, m_session), 3);
+        QCOMPARE(m_agent.state(), QProcess::Running);
+    }
+
+    void interrupted_data()
+    {
+        QTest::addColumn<bool>("killAgent"); // else the dialog is killed
+        QTest::newRow("agent killed: done at the next start") << true;
+        QTest::newRow("dialog killed: cancelled, not the previous Print") << false;
+    }
+    void interrupted()
+    {
+        QFETCH(bool, killAgent);
+        startAgent(m_agent);
+        QCOMPARE(spoolJob(m_spool, m_ann->name, "printed before", pdfs({"before"}).value(0)), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(m_out + "/printed before.pdf"), 30000);
+        QCOMPARE(spoolJob(m_spool, m_ann->name, "hang", pdfs({"hang"}).value(0)), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(dialogLog().contains("open hang"), 30000);
+        if (killAgent) {
+            m_agent.kill();
+            m_agent.waitForFinished();
+            // The dialog goes with its agent, the job stays.
+            QTRY_VERIFY(processesOf(path("bin/fmtask")).isEmpty());
+            const qsizetype kept = jobsIn(m_spool).size();
+            startAgent(m_agent);
+            QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(m_out + "/hang.pdf"), 30000);
+            qInfo("agent killed with SIGKILL during the dialog: %lld job kept, printed at the next "
+                  "start",
+                qlonglong(kept));
+            QCOMPARE(kept, 1);
+        } else {
+            ::kill(processesOf(path("bin/fmtask")).value(0), SIGKILL);
+            QTRY_VERIFY_WITH_TIMEOUT(jobsIn(m_spool).isEmpty(), 30000);
+            QVERIFY(!QFile::exists(m_out + "/hang.pdf"));
+            QTRY_COMPARE(m_notifications.received.filter("ended unexpectedly").size(), 1);
+            qInfo("dialog killed after an earlier Print: job dropped as cancelled, user told");
+        }
+    }
+
+    // With the dialog turned off, hostile titles render at once under safe names, side by side.
+    void hostileTitles()
+    {
+        settings({{"path", m_out + '/'}, {"format", "pdf"}, {"chDialog", "false"}});
+        const QStringList titles {"../../escape", "-rf --no-preserve-root", "a/b/c", "\x1b[2J", "",
+            "\n", QString(10000, 'x'), "..", ".hidden"};
+        for (const QString &title : titles)
+            QCOMPARE(spoolJob(m_spool, m_ann->name, title, pdfs({"hostile"}).value(0)), 0);
+        const QStringList homeBefore = entries(m_ann->home);
+        QCOMPARE(runAgent({"--once"}, m_session), 0);
+        QVERIFY(dialogLog().isEmpty());
+        QCOMPARE(entries(m_ann->home), homeBefore);
+        QVERIFY(!QFile::exists(path("escape.pdf")));
+        const QStringList made = entries(m_out);
+        qInfo("%lld hostile titles: %lld files in the chosen folder, %lld dialogs, home folder %s",
+            qlonglong(titles.size()), qlonglong(made.size()), qlonglong(dialogLog().count("open ")),
+            entries(m_ann->home) == homeBefore ? "unchanged" : "changed");
+        QCOMPARE(made.filter(QRegularExpression("\\.pdf$")).size(), titles.size());
+        for (const QString &title : titles) {
+            const QString name = JobRules::safeFileName(title);
+            QVERIFY2(std::any_of(made.begin(), made.end(),
+                         [&](const QString &file) { return file.startsWith(name); }),
+                qPrintable(name));
+        }
+    }
+
+    void failures_data()
+    {
+        QTest::addColumn<Fault>("fault");
+        QTest::addColumn<QString>("told"); // part of the notification
+        QTest::addColumn<bool>("nextPrinted"); // the job after it
+
+        // clang-format off
+        QTest::newRow("damaged document") << Fault::DamagedDocument << "could not print" << true;
+        QTest::newRow("incomplete job")   << Fault::IncompleteJob   << "incomplete"      << true;
+        QTest::newRow("folder gone")      << Fault::FolderGone      << "could not print" << false;
+        QTest::newRow("disk full")        << Fault::DiskFull        << "could not print" << true;
+        QTest::newRow("dialog missing")   << Fault::DialogMissing   << "cannot be started" << false;
+        // clang-format on
+    }
+    void failures()
+    {
+        QFETCH(Fault, fault);
+        QFETCH(QString, told);
+        QFETCH(bool, nextPrinted);
+        QString out = m_out;
+        if (fault == Fault::FolderGone)
+            out += "/gone";
+        std::optional<SmallDisk> disk;
+        if (fault == Fault::DiskFull)
+            QVERIFY(disk.emplace(m_out, "size=512k,mode=0700,uid=" + QString::number(m_ann->uid))
+                        .mounted);
+        if (fault != Fault::DialogMissing)
+            settings({{"path", out + '/'}, {"format", "bmp"}, {"image_color", "24"},
+                {"chDialog", "false"}});
+        else
+            QFile::rename(path("bin/fmtask"), path("bin/fmtask.away"));
+        // An A4 page at 300 dpi in 24-bit BMP is 26 MB; a one-inch page 270 kB.
+        const QByteArray document
+            = fault == Fault::DamagedDocument ? "%PDF-1.4\nnot really" : pdfs({"first"}).value(0);
+        QCOMPARE(spoolJob(m_spool, m_ann->name, "first", document), 0);
+        if (fault == Fault::IncompleteJob)
+            QVERIFY(QFile(QDir(jobsIn(m_spool).value(0)).filePath("job.pdf")).resize(100));
+        QCOMPARE(spoolJob(m_spool, m_ann->name, "next", pdfs({"next"}, 72).value(0)), 0);
+        QCOMPARE(runAgent({"--once"}, m_session), 0);
+        QFile::rename(path("bin/fmtask.away"), path("bin/fmtask"));
+        const QStringList made = entries(m_out);
+        const QString failed = m_spool + '/' + QString::number(m_ann->uid) + "/failed";
+        qInfo("%lld notification(s), %lld job(s) kept aside, %lld file(s) left: %s",
+            qlonglong(m_notifications.received.size()), qlonglong(entries(failed).size()),
+            qlonglong(made.size()), qPrintable(made.join(", ")));
+
+        QVERIFY2(m_notifications.received.filter(told).size() >= 1,
+            qPrintable(m_notifications.received.join('\n')));
+        QCOMPARE(made, nextPrinted ? QStringList {"next.bmp"} : QStringList());
+        QCOMPARE(entries(failed).size(), nextPrinted ? 1 : 2);
+        QCOMPARE(runAgent({"--retry"}, m_session), 0);
+        QVERIFY(entries(failed).isEmpty());
+        QCOMPARE(jobsIn(m_spool).size(), nextPrinted ? 1 : 2);
+    }
+
+    // Other users can read every command line: the PDF passwords must never be on one.
+    void passwordsOffCommandLines()
+    {
+        const QString password = QStringLiteral("Sesame-7761");
+        settings({{"path", m_out + '/'}, {"format", "pdf"}, {"pdf_protect", true},
+            {"pdf_user_pw", scramblePassword(password)},
+            {"pdf_owner_pw", scramblePassword(password + "-owner")}});
+        QCOMPARE(spoolJob(m_spool, m_ann->name, "sealed", pdfs({"sealed"}).value(0)), 0);
+        startAgent(m_agent, {"--once"});
+        QStringList seen;
+        while (m_agent.state() != QProcess::NotRunning) {
+            processesOf(QString(), &seen);
+            QCoreApplication::processEvents();
+        }
+        qInfo("%lld command lines read while the protected PDF rendered, %lld of qpdf, %lld with "
+              "the password",
+            qlonglong(seen.size()), qlonglong(seen.filter("qpdf").size()),
+            qlonglong(seen.filter(password).size()));
+        QVERIFY(seen.filter("qpdf").size() >= 1);
+        QVERIFY(seen.filter(password).isEmpty());
+        QByteArray info;
+        QVERIFY(runAs(nullptr, "pdfinfo", {m_out + "/sealed.pdf"}, m_session, &info) != 0);
+        QVERIFY(info.contains("Incorrect password"));
+    }
+
+    void cleanupTestCase()
+    {
+        m_bus.kill();
+        m_bus.waitForFinished();
+    }
+
+private:
+    QString path(const QString &relative) const { return m_dir.filePath(relative); }
+    QString agent() const { return path("bin/vellumio-agent"); }
+
+    // The agent to its end, answering its notifications meanwhile.
+    int runAgent(const QStringList &arguments, const QProcessEnvironment &session)
+    {
+        QProcess process;
+        startAs(process, m_ann.get(), agent(), arguments, session);
+        QSignalSpy ended(&process, &QProcess::finished);
+        return ended.wait(120000) && process.exitStatus() == QProcess::NormalExit
+            ? process.exitCode()
+            : -1;
+    }
+
+    void startAgent(QProcess &process, const QStringList &arguments = {})
+    {
+        process.setProcessChannelMode(QProcess::ForwardedChannels);
+        startAs(process, m_ann.get(), agent(), arguments, m_session);
+        QVERIFY(process.waitForStarted());
+    }
+
+    // The user's settings, as the dialog left them.
+    void settings(const QVariantMap &values)
+    {
+        {
+            QSettings file(m_ann->settingsFile(), QSettings::IniFormat);
+            for (auto it = values.begin(); it != values.end(); ++it)
+                file.setValue(it.key(), it.value());
+        }
+        ::chown(QFile::encodeName(m_ann->settingsFile()), m_ann->uid, m_ann->gid);
+        ::chmod(QFile::encodeName(m_ann->settingsFile()), 0600);
+    }
+
+    static QProcessEnvironment backendEnvironment(const QString &root)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("VELLUMIO_SPOOL", root);
+        return environment;
+    }
+
+    // The backend as the scheduler runs it, as root, with the document as a file.
+    int spoolJob(
+        const QString &root, const QString &user, const QString &title, const QByteArray &document)
+    {
+        writeFile(path("document.pdf"), document);
+        return runAs(nullptr, VELLUMIO_BACKEND,
+            {QString::number(++m_jobId), user, title, "1", "", path("document.pdf")},
+            backendEnvironment(root));
+    }
+
+    // A whole job put into a folder by hand, owned as the folder is.
+    void plantJob(const QString &folder)
+    {
+        const QString job = folder + "/00000000000000000001-1";
+        QDir().mkpath(job);
+        const QByteArray document = pdfs({"planted"}).value(0);
+        writeFile(job + "/job.pdf", document);
+        writeFile(job + "/job.info",
+            "vellumio-job 1\njob-id=1\nuser=x\ntitle=planted\ncopies=1\noptions=\ntime=1\nsize="
+                + QByteArray::number(document.size()) + '\n');
+        struct stat info;
+        ::stat(QFile::encodeName(folder), &info);
+        for (const QString &file : {job, job + "/job.pdf", job + "/job.info"})
+            ::chown(QFile::encodeName(file), info.st_uid, info.st_gid);
+    }
+
+    QStringList jobsIn(const QString &root) const
+    {
+        const QString folder = root + '/' + QString::number(m_ann->uid);
+        QStringList jobs;
+        for (const QString &name : entries(folder))
+            if (name != "failed")
+                jobs += folder + '/' + name;
+        return jobs;
+    }
+
+    QByteArray dialogLog() const
+    {
+        QFile log(m_ann->home + "/dialog.log");
+        return log.open(QIODevice::ReadOnly) ? log.readAll() : QByteArray();
+    }
+
+    // One PDF per text, its page showing it; `points` wide and high, A4 when 0.
+    QList<QByteArray> pdfs(const QList<QByteArray> &texts, int points = 0)
+    {
+        QByteArray program = "/Helvetica findfont 24 scalefont setfont ";
+        for (const QByteArray &text : texts)
+            program += "10 20 moveto (" + text + ") show showpage ";
+        QStringList arguments {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=pdfwrite"};
+        if (points)
+            arguments << "-dDEVICEWIDTHPOINTS=" + QString::number(points)
+                      << "-dDEVICEHEIGHTPOINTS=" + QString::number(points) << "-dFIXEDMEDIA";
+        else
+            arguments << "-sPAPERSIZE=a4";
+        arguments << "-o" << path("page%d.pdf") << "-c" << QString::fromUtf8(program);
+        if (runAs(nullptr, "gs", arguments, QProcessEnvironment::systemEnvironment()) != 0)
+            return {};
+        QList<QByteArray> made;
+        for (int i = 1; i <= texts.size(); ++i) {
+            QFile page(path("page") + QString::number(i) + ".pdf");
+            made += page.open(QIODevice::ReadOnly) ? page.readAll() : QByteArray();
+        }
+        return made;
+    }
+
+    QTemporaryDir m_dir;
+    std::unique_ptr<ThrowawayUser> m_ann, m_bob;
+    QString m_spool = path("spool");
+    QString m_out;
+    QProcess m_bus, m_agent;
+    QProcessEnvironment m_session;
+    NotificationService m_notifications;
+    int m_jobId = 0;
+};
+
+QTEST_GUILESS_MAIN(tst_PrintAgent)
+#include "tst_printagent.moc"
