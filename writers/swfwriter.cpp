@@ -5,8 +5,8 @@
 #include "writers/md5crypt.h"
 #include "writers/textdocuments.h"
 
+#include <QBuffer>
 #include <QByteArrayView>
-#include <QtEndian>
 
 #include <cmath>
 #include <initializer_list>
@@ -255,7 +255,7 @@ QByteArray protection(const QString &password)
 class CompressedBody
 {
 public:
-    explicit CompressedBody(QByteArray *out)
+    explicit CompressedBody(QIODevice *out)
         : m_out(out)
     {
         // The bulk is JPEG data already: the fastest level halves the time and costs under 1%.
@@ -300,6 +300,7 @@ public:
         drain(Z_FINISH);
         return m_ok;
     }
+    bool ok() const { return m_ok; }
     quint64 size() const { return m_size; }
 
 private:
@@ -310,22 +311,32 @@ private:
             m_stream.next_out = reinterpret_cast<Bytef *>(buffer);
             m_stream.avail_out = sizeof buffer;
             const int status = deflate(&m_stream, flush);
-            if (status == Z_STREAM_ERROR) {
+            const auto produced = qint64(sizeof buffer - m_stream.avail_out);
+            if (status == Z_STREAM_ERROR || m_out->write(buffer, produced) != produced) {
                 m_ok = false;
                 return;
             }
-            m_out->append(buffer, qsizetype(sizeof buffer - m_stream.avail_out));
             if (flush == Z_FINISH ? status == Z_STREAM_END
                                   : m_stream.avail_in == 0 && m_stream.avail_out != 0)
                 return;
         }
     }
 
-    QByteArray *m_out;
+    QIODevice *m_out;
     z_stream m_stream {};
     quint64 m_size = 0;
     bool m_ok = false;
 };
+
+QSize twipsOf(QSize pixels, int dpi)
+{
+    return QSize(int(std::lround(double(pixels.width()) * twipsPerInch / dpi)),
+        int(std::lround(double(pixels.height()) * twipsPerInch / dpi)))
+        .expandedTo(QSize(1, 1));
+}
+
+// Pages that fit the ids of one file: the font, then a bitmap, a shape and a text field a page.
+constexpr int maximumFrames = (0xffff - fontId) / idsPerPage;
 
 QByteArray fail(QString *error, const QString &message)
 {
@@ -387,43 +398,68 @@ QSize jpegSize(const QByteArray &jpeg, QString *error)
     return reject("damaged JPEG image");
 }
 
-QByteArray document(const QList<Page> &pages, const Options &options, QString *error)
+struct Writer::State
 {
-    if (pages.isEmpty())
-        return fail(error, QStringLiteral("no pages"));
-    if (pages.size() > (0xffff - fontId) / idsPerPage)
-        return fail(error, QStringLiteral("too many pages for one SWF file"));
-    if (options.dpi <= 0)
-        return fail(error, QStringLiteral("no resolution"));
+    State(QIODevice *device, const Options &givenOptions)
+        : out(device)
+        , options(givenOptions)
+        , body(device)
+    { }
 
-    // Every page is checked before anything is written; the stage holds the largest page.
-    QList<QSize> pixels;
-    QList<QSize> twips;
-    QSize stage;
-    for (qsizetype i = 0; i < pages.size(); ++i) {
-        QString why;
-        const QSize size = jpegSize(pages.at(i).jpeg, &why);
-        if (size.isEmpty())
-            return fail(error, QStringLiteral("page %1: %2").arg(i + 1).arg(why));
-        const QSize pageTwips(int(std::lround(double(size.width()) * twipsPerInch / options.dpi)),
-            int(std::lround(double(size.height()) * twipsPerInch / options.dpi)));
-        pixels += size;
-        twips += pageTwips.expandedTo(QSize(1, 1));
-        stage = stage.expandedTo(twips.last());
+    bool fail(const QString &message)
+    {
+        if (error.isEmpty())
+            error = message;
+        return false;
     }
 
-    QByteArray out = QByteArrayLiteral("CWS");
-    putU8(out, version);
-    putU32(out, 0); // the uncompressed length, known at the end
-    const qsizetype headerSize = out.size();
-    CompressedBody body(&out);
+    QIODevice *out;
+    Options options;
+    CompressedBody body;
+    qint64 start = 0; // where the file begins on the device
+    int frames = 0;
+    int added = 0;
+    QSize largest;
+    bool textShown = false;
+    bool finished = false;
+    QString error;
+};
 
+Writer::Writer(QIODevice *device, const Options &options, int frames, QSize largest)
+    : d(std::make_unique<State>(device, options))
+{
+    d->frames = frames;
+    d->largest = largest;
+    if (frames <= 0)
+        d->fail(QStringLiteral("no pages"));
+    else if (frames > maximumFrames)
+        d->fail(QStringLiteral("too many pages for one SWF file"));
+    else if (options.dpi <= 0)
+        d->fail(QStringLiteral("no resolution"));
+    else if (largest.isEmpty())
+        d->fail(QStringLiteral("no page size"));
+    else if (!device->isWritable() || device->isSequential())
+        d->fail(QStringLiteral("the SWF needs a seekable device to write to"));
+    if (!d->error.isEmpty())
+        return;
+
+    d->start = device->pos();
+    QByteArray header = QByteArrayLiteral("CWS");
+    putU8(header, version);
+    putU32(header, 0); // the uncompressed length, known at the end
+    if (device->write(header) != header.size()) {
+        d->fail(device->errorString());
+        return;
+    }
+
+    CompressedBody &body = d->body;
+    const QSize stage = twipsOf(largest, options.dpi);
     QByteArray frameHeader = rect(stage.width(), stage.height());
     const double rate = std::isfinite(options.frameRate) && options.frameRate > 0
         ? options.frameRate
         : Options().frameRate;
     putU16(frameHeader, quint32(qBound(1, int(std::lround(rate * 256)), 0xffff))); // 8.8 fixed
-    putU16(frameHeader, quint32(pages.size()));
+    putU16(frameHeader, quint32(frames));
     body.write(frameHeader);
 
     QByteArray flags;
@@ -434,41 +470,105 @@ QByteArray document(const QList<Page> &pages, const Options &options, QString *e
         body.tag(Protect, {protection(options.password)});
     if (options.textLayer)
         body.tag(DefineFont2, {deviceFontDefinition()});
+    if (!body.ok())
+        d->fail(device->errorString());
+}
 
-    const QByteArray stop = stopAction();
-    bool textShown = false;
-    for (qsizetype i = 0; i < pages.size(); ++i) {
-        const auto bitmapId = quint16(fontId + 1 + i * idsPerPage);
-        const auto shapeId = quint16(bitmapId + 1);
-        const auto textId = quint16(bitmapId + 2);
-        if (i > 0)
-            body.tag(RemoveObject2, {removeObject(imageDepth)});
-        if (std::exchange(textShown, false))
-            body.tag(RemoveObject2, {removeObject(textDepth)});
+Writer::~Writer() = default;
 
-        QByteArray id;
-        putU16(id, bitmapId);
-        body.tag(DefineBitsJpeg2, {id, pages.at(i).jpeg}, true);
-        body.tag(DefineShape, {bitmapShape(shapeId, bitmapId, pixels.at(i), twips.at(i))});
-        body.tag(PlaceObject2, {placeObject(imageDepth, shapeId)});
+bool Writer::addPage(const Page &page)
+{
+    if (!d->error.isEmpty() || d->finished)
+        return d->fail(QStringLiteral("the movie is finished"));
+    const int index = d->added;
+    const QString name = QStringLiteral("page %1: ").arg(index + 1);
+    if (index >= d->frames)
+        return d->fail(name + QStringLiteral("more pages than announced"));
+    QString why;
+    const QSize pixels = jpegSize(page.jpeg, &why);
+    if (pixels.isEmpty())
+        return d->fail(name + why);
+    if (pixels.width() > d->largest.width() || pixels.height() > d->largest.height())
+        return d->fail(name + QStringLiteral("larger than announced"));
 
-        if (options.textLayer && !pages.at(i).text.trimmed().isEmpty()) {
-            const QStringList lines = TextDocuments::linesOf(pages.at(i).text);
-            body.tag(DefineEditText, {textField(textId, lines, twips.at(i))});
-            body.tag(PlaceObject2, {placeObject(textDepth, textId)});
-            textShown = true;
-        }
-        if (!options.animate)
-            body.tag(DoAction, {stop});
-        body.tag(ShowFrame, {});
+    CompressedBody &body = d->body;
+    const QSize twips = twipsOf(pixels, d->options.dpi);
+    const auto bitmapId = quint16(fontId + 1 + index * idsPerPage);
+    const auto shapeId = quint16(bitmapId + 1);
+    const auto textId = quint16(bitmapId + 2);
+    if (index > 0)
+        body.tag(RemoveObject2, {removeObject(imageDepth)});
+    if (std::exchange(d->textShown, false))
+        body.tag(RemoveObject2, {removeObject(textDepth)});
+
+    QByteArray id;
+    putU16(id, bitmapId);
+    body.tag(DefineBitsJpeg2, {id, page.jpeg}, true);
+    body.tag(DefineShape, {bitmapShape(shapeId, bitmapId, pixels, twips)});
+    body.tag(PlaceObject2, {placeObject(imageDepth, shapeId)});
+
+    if (d->options.textLayer && !page.text.trimmed().isEmpty()) {
+        const QStringList lines = TextDocuments::linesOf(page.text);
+        body.tag(DefineEditText, {textField(textId, lines, twips)});
+        body.tag(PlaceObject2, {placeObject(textDepth, textId)});
+        d->textShown = true;
     }
-    body.tag(End, {});
-    if (!body.finish())
-        return fail(error, QStringLiteral("compression failed"));
-    const quint64 length = quint64(headerSize) + body.size();
+    if (!d->options.animate)
+        body.tag(DoAction, {stopAction()});
+    body.tag(ShowFrame, {});
+    if (!body.ok())
+        return d->fail(name + d->out->errorString());
+    ++d->added;
+    return true;
+}
+
+bool Writer::finish()
+{
+    if (!d->error.isEmpty() || d->finished)
+        return d->fail(QStringLiteral("the movie is finished"));
+    d->finished = true;
+    if (d->added != d->frames)
+        return d->fail(QStringLiteral("%1 of %2 pages were added").arg(d->added).arg(d->frames));
+    d->body.tag(End, {});
+    if (!d->body.finish())
+        return d->fail(QStringLiteral("compression failed: ") + d->out->errorString());
+    const quint64 length = 8 + d->body.size();
     if (length > 0xffffffffu)
-        return fail(error, QStringLiteral("document too large for one SWF file"));
-    qToLittleEndian(quint32(length), out.data() + 4);
+        return d->fail(QStringLiteral("document too large for one SWF file"));
+    QByteArray field;
+    putU32(field, quint32(length));
+    const qint64 end = d->out->pos();
+    if (!d->out->seek(d->start + 4) || d->out->write(field) != field.size() || !d->out->seek(end))
+        return d->fail(d->out->errorString());
+    return true;
+}
+
+QString Writer::errorString() const
+{
+    return d->error;
+}
+
+QByteArray document(const QList<Page> &pages, const Options &options, QString *error)
+{
+    // Every page is checked before anything is written; the stage holds the largest page.
+    QSize largest;
+    for (qsizetype i = 0; i < pages.size(); ++i) {
+        QString why;
+        const QSize size = jpegSize(pages.at(i).jpeg, &why);
+        if (size.isEmpty())
+            return fail(error, QStringLiteral("page %1: %2").arg(i + 1).arg(why));
+        largest = largest.expandedTo(size);
+    }
+    QByteArray out;
+    QBuffer buffer(&out);
+    buffer.open(QIODevice::WriteOnly);
+    Writer writer(&buffer, options, int(qMin<qsizetype>(pages.size(), maximumFrames + 1)), largest);
+    for (const Page &page : pages) {
+        if (!writer.addPage(page))
+            break;
+    }
+    if (!writer.finish())
+        return fail(error, writer.errorString());
     return out;
 }
 
