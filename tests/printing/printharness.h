@@ -190,6 +190,7 @@ struct PrivateCups
             {QStringLiteral("-f"), QStringLiteral("-c"), path(QStringLiteral("conf/cupsd.conf")),
                 QStringLiteral("-s"), path(QStringLiteral("conf/cups-files.conf"))},
             QProcessEnvironment::systemEnvironment());
+        cupsd.waitForStarted();
         for (int tries = 0; tries < 200 && cupsd.state() == QProcess::Running; ++tries) {
             QByteArray answer;
             runAs(nullptr, QStringLiteral("lpstat"),
@@ -200,6 +201,19 @@ struct PrivateCups
             QThread::msleep(25);
         }
         return false;
+    }
+
+    // The Vellumio queue with the project's description, under its own operation policy.
+    bool addQueue(const QString &ppd)
+    {
+        return runAs(nullptr, QStringLiteral("lpadmin"),
+                   {QStringLiteral("-h"), socket(), QStringLiteral("-p"),
+                       QStringLiteral("Vellumio"), QStringLiteral("-E"), QStringLiteral("-v"),
+                       QStringLiteral("vellumio:/"), QStringLiteral("-P"), ppd,
+                       QStringLiteral("-o"), QStringLiteral("printer-is-shared=false"),
+                       QStringLiteral("-o"), QStringLiteral("printer-op-policy=vellumio")},
+                   QProcessEnvironment::systemEnvironment())
+            == 0;
     }
 
     static int freePort()

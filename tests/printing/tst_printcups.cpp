@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The whole print path on a real CUPS: the project installed into a folder of its own, a private
+// scheduler with the project's backend, description and policy, two throwaway users, the first
+// one's desktop on a virtual display with the installed agent in it. Jobs go in with `lp`, the
+// dialog's Print is pressed with xdotool, and the files are read back with real readers.
+#include "tests/printing/printharness.h"
+
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+
+using namespace PrintHarness;
+
+class tst_PrintCups : public QObject
+{
+    Q_OBJECT
+
+public:
+    int passed = 0, failed = 0;
+
+private slots:
+    void initTestCase()
+    {
+        if (::geteuid() != 0)
+            QSKIP("needs root: a scheduler, throwaway users and a backend that drops to them");
+        m_systemSpoolBefore = QFileInfo::exists(QStringLiteral("/var/spool/vellumio"));
+        removeStaleUsers();
+        QVERIFY(m_dir.isValid() && ::chmod(QFile::encodeName(m_dir.path()), 0711) == 0);
+        QProcessEnvironment install = QProcessEnvironment::systemEnvironment();
+        install.insert("DESTDIR", path("root"));
+        QCOMPARE(runAs(nullptr, CMAKE_COMMAND, {"--install", BUILD_DIR}, install), 0);
+        m_ann = std::make_unique<ThrowawayUser>('a', m_dir.path());
+        m_bob = std::make_unique<ThrowawayUser>('b', m_dir.path());
+        QVERIFY(m_ann->uid && m_bob->uid && m_ann->makeFolder(m_ann->home + "/out", 0700));
+
+        // The spool root as scripts/install-printer.sh leaves it.
+        QVERIFY(
+            QDir().mkpath(path("spool")) && ::chmod(QFile::encodeName(path("spool")), 0711) == 0);
+        QVERIFY(writeFile(path("spool/folders.stamp"), QByteArray()));
+        m_cups = std::make_unique<PrivateCups>(path("cups"), path("spool"));
+        QVERIFY(QDir().mkpath(path("cups")));
+        QVERIFY(m_cups->start(installed(BACKEND_DIR "/vellumio"),
+            installed(DATA_DIR "/vellumio/vellumio-policy.conf")));
+        QVERIFY(m_cups->addQueue(installed(DATA_DIR "/ppd/vellumio/vellumio.ppd")));
+
+        m_display = startDisplay(m_xvfb, *m_ann);
+        QVERIFY(!m_display.isEmpty());
+        m_session = m_ann->session(m_display, path("spool"));
+        m_session.insert("CUPS_SERVER", m_cups->socket());
+        // The installed agent, as the autostart entry starts it, finds the installed dialog.
+        QVERIFY(QFile::exists(path("root" AUTOSTART_ENTRY)));
+        startAs(m_agent, m_ann.get(), installed(BIN_DIR "/vellumio-agent"), {}, m_session);
+        QVERIFY(m_agent.waitForStarted());
+    }
+    void cleanup() { ++(QTest::currentTestFailed() ? failed : passed); }
+
+    void print_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("document"); // "pdf": two pages, "txt": a line of text
+        QTest::addColumn<QVariantMap>("settings"); // chosen before printing
+        QTest::addColumn<QString>("file"); // the result in the output folder
+        QTest::addColumn<QStringList>("reader"); // run on the result
+        QTest::addColumn<QStringList>("says"); // in what the reader prints
+
+        using V = QVariantMap;
+        using L = QStringList;
+        // clang-format off
+        QTest::newRow("PDF as PDF with its title")    << "Quarterly" << "pdf"
+            << V{{"format", "pdf"}, {"pdf_title", "Figures of the quarter"}}
+            << "Quarterly.pdf"  << L{"pdfinfo"}         << L{"Pages:           2", "Title:           Figures of the quarter"};
+        QTest::newRow("PDF as one grey LZW TIFF")     << "Scan" << "pdf"
+            << V{{"format", "tif"}, {"multipage_tiff", "true"}, {"image_color", "24g"}, {"format_ext", "LZW"}}
+            << "Scan.tif"       << L{"tiffinfo"}        << L{"Compression Scheme: LZW", "Bits/Sample: 8", "multi-page document", "Image Width: 2479"};
+        QTest::newRow("text as monochrome PNG")       << "notes.txt" << "txt"
+            << V{{"format", "png"}, {"image_color", "1"}}
+            << "notes.png"      << L{"file", "-b"}      << L{"PNG image data, 2479 x 3508, 1-bit"};
+        QTest::newRow("PDF as JPEG at quality 40")    << "Photo" << "pdf"
+            << V{{"format", "jpg"}, {"image_color", "24"}, {"q_jpg", 40}}
+            << "Photo.jpg"      << L{"file", "-b"}      << L{"JPEG image data", "2479x3508"};
+        QTest::newRow("text as RTF")                  << "letter.txt" << "txt"
+            << V{{"format", "rtf"}}
+            << "letter.rtf"     << L{"file", "-b"}      << L{"Rich Text Format"};
+        // clang-format on
+    }
+    void print()
+    {
+        QFETCH(QString, title);
+        QFETCH(QString, document);
+        QFETCH(QVariantMap, settings);
+        QFETCH(QString, file);
+        QFETCH(QStringList, reader);
+        QFETCH(QStringList, says);
+        writeSettings(settings);
+        QByteArray said;
+        QCOMPARE(lp({"-t", title, input(document)}, &said), 0);
+        // The dialog of this job, and Return for Print.
+        QByteArray window;
+        QCOMPARE(runAs(nullptr, "timeout",
+                     {"30", "xdotool", "search", "--sync", "--onlyvisible", "--name", "^Vellumio$"},
+                     display(), &window),
+            0);
+        QCOMPARE(runAs(nullptr, "xdotool",
+                     {"windowfocus", "--sync", QString::fromUtf8(window.split('\n').first()), "key",
+                         "Return"},
+                     display()),
+            0);
+        const QString result = m_ann->home + "/out/" + file;
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(result), 60000);
+        QTRY_VERIFY_WITH_TIMEOUT(spooledJobs().isEmpty(), 10000);
+        QByteArray read;
+        QCOMPARE(runAs(nullptr, reader.first(), reader.mid(1) << result, m_session, &read), 0);
+        for (const QString &part : says)
+            QVERIFY2(read.contains(part.toUtf8()), read.constData());
+        QCOMPARE(QFileInfo(result).ownerId(), m_ann->uid);
+    }
+
+    // The first user claims to be the second: the policy wants the real owner.
+    void otherUserRefused()
+    {
+        QByteArray said;
+        QVERIFY(lp({"-U", m_bob->name, input("txt")}, &said) != 0);
+        QVERIFY2(said.contains("Unauthorized") || said.contains("Forbidden"), said.constData());
+        QVERIFY(!QFileInfo::exists(path("spool/") + QString::number(m_bob->uid)));
+        // Nor may the second user look into the first one's spool.
+        QVERIFY(runAs(m_bob.get(), "ls", {path("spool/") + QString::number(m_ann->uid)}, m_session)
+            != 0);
+    }
+
+    void ownershipAndModes_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<bool>("users"); // owned by the first user, else by root
+        QTest::addColumn<uint>("mode");
+
+        // clang-format off
+        QTest::newRow("installed backend") << installed(BACKEND_DIR "/vellumio") << false << 0700u;
+        QTest::newRow("spool root")        << path("spool")                      << false << 0711u;
+        QTest::newRow("user's spool")      << path("spool/") + QString::number(m_ann->uid) << true << 0700u;
+        QTest::newRow("settings, saved")   << m_ann->settingsFile()              << true  << 0600u;
+        // clang-format on
+    }
+    void ownershipAndModes()
+    {
+        QFETCH(QString, file);
+        QFETCH(bool, users);
+        QFETCH(uint, mode);
+        struct stat info;
+        QVERIFY(::lstat(QFile::encodeName(file), &info) == 0);
+        QCOMPARE(info.st_uid, users ? m_ann->uid : 0u);
+        QCOMPARE(uint(info.st_mode & 07777), mode);
+    }
+
+    void cleanupTestCase()
+    {
+        m_agent.kill();
+        m_agent.waitForFinished();
+        m_xvfb.kill();
+        m_xvfb.waitForFinished();
+        m_cups.reset();
+        m_ann.reset();
+        m_bob.reset();
+        // Nothing of the system's own printing was used.
+        QCOMPARE(QFileInfo::exists(QStringLiteral("/var/spool/vellumio")), m_systemSpoolBefore);
+    }
+
+private:
+    QString path(const QString &relative) const { return m_dir.filePath(relative); }
+    QString installed(const QString &relative) const
+    {
+        return path("root" INSTALL_PREFIX "/") + relative;
+    }
+    QProcessEnvironment display() const
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("DISPLAY", m_display);
+        return environment;
+    }
+
+    // lp as the first user, through the scheduler's socket, where peer credentials say who it is.
+    int lp(const QStringList &arguments, QByteArray *output)
+    {
+        return runAs(m_ann.get(), "lp",
+            QStringList {"-h", m_cups->socket(), "-d", "Vellumio"} + arguments, m_session, output);
+    }
+
+    // Documents readable by the scheduler's filters.
+    QString input(const QString &kind)
+    {
+        const QString name = path("input.") + kind;
+        if (!QFileInfo::exists(name)) {
+            if (kind == "txt")
+                writeFile(name, "A line of plain text, printed from a terminal.\n");
+            else
+                runAs(nullptr, "gs",
+                    {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=pdfwrite", "-sPAPERSIZE=a4",
+                        "-o", name, "-c",
+                        "/Helvetica findfont 30 scalefont setfont 72 700 moveto (First page) show "
+                        "showpage 72 700 moveto (Second page) show showpage"},
+                    QProcessEnvironment::systemEnvironment());
+            ::chmod(QFile::encodeName(name), 0644);
+        }
+        return name;
+    }
+
+    void writeSettings(const QVariantMap &values)
+    {
+        QFile::remove(m_ann->settingsFile());
+        {
+            QSettings key(m_ann->settingsFile(), QSettings::IniFormat);
+            key.setValue("path", m_ann->home + "/out/");
+            for (auto it = values.begin(); it != values.end(); ++it)
+                key.setValue(it.key(), it.value());
+        }
+        ::chown(QFile::encodeName(m_ann->settingsFile()), m_ann->uid, m_ann->gid);
+        ::chmod(QFile::encodeName(m_ann->settingsFile()), 0600);
+    }
+
+    QStringList spooledJobs() const
+    {
+        return QDir(path("spool/") + QString::number(m_ann->uid))
+            .entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    }
+
+    QTemporaryDir m_dir;
+    std::unique_ptr<ThrowawayUser> m_ann, m_bob;
+    std::unique_ptr<PrivateCups> m_cups;
+    QProcess m_xvfb, m_agent;
+    QString m_display;
+    QProcessEnvironment m_session;
+    bool m_systemSpoolBefore = false;
+};
+
+// CI reads the closing line.
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    tst_PrintCups test;
+    const int status = QTest::qExec(&test, argc, argv);
+    std::printf("%d passed, %d failed\n", test.passed, std::max(test.failed, status));
+    return status;
+}
+
+#include "tst_printcups.moc"
