@@ -8,8 +8,12 @@
 #include "settings/jobsettings.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QGuiApplication>
+#include <QLibraryInfo>
+#include <QProcessEnvironment>
 #include <QScreen>
+#include <QTranslator>
 
 namespace RunProtocol {
 
@@ -55,6 +59,103 @@ void centreOnScreen(QWidget *window)
         (available.right() - frame.width()) / 2, (available.bottom() - frame.height()) / 2);
 }
 
+namespace {
+
+// Where the translations lie among the program's resources, and how they are named.
+const QString translationFolder = QStringLiteral(":/i18n/");
+const QString translationPrefix = QStringLiteral("fmtask_");
+const QString translationSuffix = QStringLiteral(".qm");
+
+// A locale without translations: C, POSIX, or C with a character set ("C.UTF-8").
+bool isPlainLocale(const QString &locale)
+{
+    return locale == QLatin1String("C") || locale == QLatin1String("POSIX")
+        || locale.startsWith(QLatin1String("C."));
+}
+
+// The shipped language a locale name stands for ("de_AT.UTF-8@euro" finds "de"), "en" for
+// English, or empty.
+QString shippedLanguageOf(QString locale, const QStringList &shipped)
+{
+    locale = locale.section(QLatin1Char('@'), 0, 0).section(QLatin1Char('.'), 0, 0);
+    const QString language = locale.section(QLatin1Char('_'), 0, 0);
+    if (language == QLatin1String("en"))
+        return language;
+    if (shipped.contains(locale))
+        return locale;
+    if (shipped.contains(language))
+        return language;
+    return QString();
+}
+
+} // namespace
+
+QStringList shippedLanguages()
+{
+    QStringList languages;
+    const QStringList files
+        = QDir(translationFolder)
+              .entryList({translationPrefix + QLatin1Char('*') + translationSuffix}, QDir::Files,
+                  QDir::Name);
+    for (const QString &file : files)
+        languages << file.mid(translationPrefix.size(),
+            file.size() - translationPrefix.size() - translationSuffix.size());
+    return languages;
+}
+
+QString userLanguage(const QProcessEnvironment &environment, const QStringList &shipped)
+{
+    QString locale;
+    for (const char *name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        locale = environment.value(QLatin1String(name));
+        if (!locale.isEmpty())
+            break;
+    }
+    if (locale.isEmpty() || isPlainLocale(locale))
+        return QString();
+    QStringList wanted
+        = environment.value(QStringLiteral("LANGUAGE")).split(QLatin1Char(':'), Qt::SkipEmptyParts);
+    if (wanted.isEmpty())
+        wanted << locale;
+    for (const QString &entry : std::as_const(wanted)) {
+        const QString language = shippedLanguageOf(entry, shipped);
+        if (language == QLatin1String("en"))
+            return QString();
+        if (!language.isEmpty())
+            return language;
+    }
+    return QString();
+}
+
+bool installTranslation(const QString &language)
+{
+    QCoreApplication *application = QCoreApplication::instance();
+    // Both stay with the application for the whole run.
+    auto *own = new QTranslator(application);
+    if (!own->load(translationFolder + translationPrefix + language + translationSuffix)) {
+        delete own;
+        return false;
+    }
+    auto *toolkit = new QTranslator(application);
+    if (toolkit->load(QStringLiteral("qtbase_") + language,
+            QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(toolkit);
+    else
+        delete toolkit;
+    QCoreApplication::installTranslator(own);
+    return true;
+}
+
+QByteArray preferredPlatform(const QProcessEnvironment &environment)
+{
+    const auto isSet = [&environment](const char *name) {
+        return !environment.value(QLatin1String(name)).isEmpty();
+    };
+    if (isSet("QT_QPA_PLATFORM") || !isSet("WAYLAND_DISPLAY") || !isSet("DISPLAY"))
+        return QByteArray();
+    return QByteArrayLiteral("xcb;wayland");
+}
+
 bool startStep(MainWindow &window)
 {
     if (jobSettings().saveAsOnly)
@@ -73,10 +174,21 @@ int run(int argc, char **argv)
     job.converterPath = converterPath(QString::fromLocal8Bit(argv[0]));
 
     // Driver contract: the one argument is the proposed file name and nothing else. Qt is given
-    // only the program's path, so a name such as "-reverse" or "-stylesheet=x.qss" stays a name.
-    int qtArgc = 1;
-    char *qtArgv[] = {argv[0], nullptr};
+    // only the program's path, so a name such as "-reverse" or "-stylesheet=x.qss" stays a name;
+    // the platform, when the session calls for one, is the program's own choice.
+    const QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    QByteArray platform = preferredPlatform(environment);
+    char platformOption[] = "-platform";
+    char *qtArgv[] = {argv[0], platformOption, platform.data(), nullptr};
+    int qtArgc = 3;
+    if (platform.isEmpty()) {
+        qtArgc = 1;
+        qtArgv[1] = nullptr;
+    }
     QApplication application(qtArgc, qtArgv);
+    const QString language = userLanguage(environment, shippedLanguages());
+    if (!language.isEmpty())
+        installTranslation(language);
     job.newFileName = QString::fromLocal8Bit(argv[1]);
 
     MainWindow window;

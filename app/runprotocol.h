@@ -2,9 +2,12 @@
 #ifndef FMTASK_RUNPROTOCOL_H
 #define FMTASK_RUNPROTOCOL_H
 
+#include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 class MainWindow;
+class QProcessEnvironment;
 class QWidget;
 
 // How one print job runs: the command line, the main dialog or the save-as-only mode, and the
@@ -22,6 +25,26 @@ QString converterPath(const QString &programPath);
 
 // Moves a window to the centre of the primary screen by the frame-geometry rule.
 void centreOnScreen(QWidget *window);
+
+// The languages the program's texts are translated into, named as their translations are ("de",
+// "pt_BR", ...). The texts themselves are written in English.
+QStringList shippedLanguages();
+
+// The language of the user's messages among `shipped`, by the rules desktop programs share: the
+// locale is LC_ALL, else LC_MESSAGES, else LANG; unless that locale is C or POSIX, the
+// colon-separated list in LANGUAGE takes its place. The first entry that is English or has a
+// translation wins ("de_AT" finds "de"); no winner, or the C locale, means English (empty).
+QString userLanguage(const QProcessEnvironment &environment, const QStringList &shipped);
+
+// Installs the program's translation of a shipped language, and Qt's own for the standard
+// buttons and dialogs where the system has it. False when the program has no such translation.
+bool installTranslation(const QString &language);
+
+// The platform plugin for the session, or empty to leave the choice to Qt. A Wayland compositor
+// may keep a native window behind the printing application, so when X11 is at hand as well
+// (DISPLAY and WAYLAND_DISPLAY both set) and the user chose no platform (QT_QPA_PLATFORM), the
+// dialog runs through XWayland, with Wayland as the fallback.
+QByteArray preferredPlatform(const QProcessEnvironment &environment);
 
 // One start step: shows the main dialog topmost, or runs the save-as-only dialog. False means
 // "ask again".
