@@ -5,11 +5,11 @@
 set -euo pipefail
 
 # Building and the dialog's tests, then the tools that rendering runs and the tests read outputs
-# with, then the print path's own: a private CUPS, a virtual display and a key presser.
-packages=(cmake g++ make qt6-base-dev fontconfig fonts-dejavu-core
+# with, then the print path's own: a private CUPS, a virtual display, a key presser and a bus.
+packages=(cmake g++ make qt6-base-dev qt6-tools-dev qt6-l10n-tools fontconfig fonts-dejavu-core
     ghostscript poppler-utils qpdf libtiff-tools netpbm libopenjp2-tools pdf2djvu djvulibre-bin
     zlib1g-dev openssl
-    cups cups-client cups-bsd xvfb xdotool x11-utils "$@")
+    cups cups-client cups-bsd xvfb xdotool x11-utils dbus-daemon file "$@")
 missing=()
 for package in "${packages[@]}"; do
     if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed'; then
