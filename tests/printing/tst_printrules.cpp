@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The print path's rules without files or processes: hostile job titles, the order of jobs, the
-// job description the backend writes and the agent reads, the backend's words and users, and what
-// the agent does after the dialog.
+// The print path's rules without files or processes: hostile job titles, what the agent does after
+// the dialog, the order of jobs, and the job description the backend writes and the agent reads.
+// Users, folders and the dialog turned off are the agent suite's, run for real.
 #include "agent/jobrules.h"
 #include "backend/spooljob.h"
 
@@ -12,7 +12,6 @@
 using JobRules::AfterDialog;
 
 Q_DECLARE_METATYPE(AfterDialog)
-Q_DECLARE_METATYPE(Spool::UserVerdict)
 
 namespace {
 
@@ -114,26 +113,6 @@ private slots:
         QCOMPARE(JobRules::afterDialog({started, exitedNormally, keyRewritten, isAbort}), next);
     }
 
-    void dialogWanted_data()
-    {
-        QTest::addColumn<QVariant>("chDialog");
-        QTest::addColumn<bool>("wanted");
-
-        // clang-format off
-        QTest::newRow("never written") << QVariant()               << true;
-        QTest::newRow("unticked")      << QVariant("false")        << false;
-        QTest::newRow("edited case")   << QVariant("False")        << false;
-        QTest::newRow("shown again")   << QVariant("true")         << true;
-        QTest::newRow("emptied")       << QVariant("")             << true;
-        // clang-format on
-    }
-    void dialogWanted()
-    {
-        QFETCH(QVariant, chDialog);
-        QFETCH(bool, wanted);
-        QCOMPARE(JobRules::dialogWanted(chDialog), wanted);
-    }
-
     void pendingJobs_data()
     {
         QTest::addColumn<QStringList>("entries");
@@ -217,62 +196,6 @@ private slots:
         QFETCH(QByteArray, text);
         QFETCH(bool, parses);
         QCOMPARE(Spool::parseInfo(text.toStdString()).has_value(), parses);
-    }
-
-    void arguments_data()
-    {
-        QTest::addColumn<QStringList>("words");
-        QTest::addColumn<bool>("job");
-        QTest::addColumn<QString>("file");
-
-        // clang-format off
-        QTest::newRow("from standard input") << QStringList{"12", "ann", "Report", "1", ""}              << true  << "";
-        QTest::newRow("with a file")         << QStringList{"12", "ann", "Report", "1", "", "/var/d1"}  << true  << "/var/d1";
-        QTest::newRow("too few")             << QStringList{"12", "ann", "Report", "1"}                  << false << "";
-        QTest::newRow("too many")            << QStringList{"12", "ann", "R", "1", "", "/f", "x"}        << false << "";
-        QTest::newRow("job id not a number") << QStringList{"1/2", "ann", "Report", "1", ""}             << false << "";
-        QTest::newRow("no user")             << QStringList{"12", "", "Report", "1", ""}                 << false << "";
-        // clang-format on
-    }
-    void arguments()
-    {
-        QFETCH(QStringList, words);
-        QFETCH(bool, job);
-        QFETCH(QString, file);
-        const std::optional<Spool::Arguments> parsed = Spool::parseArguments(toStd(words));
-        QCOMPARE(parsed.has_value(), job);
-        if (parsed)
-            QCOMPARE(QString::fromStdString(parsed->file), file);
-    }
-
-    void users_data()
-    {
-        QTest::addColumn<bool>("found");
-        QTest::addColumn<uint>("uid");
-        QTest::addColumn<QByteArray>("loginDefs");
-        QTest::addColumn<Spool::UserVerdict>("verdict");
-
-        using V = Spool::UserVerdict;
-        const QByteArray debian
-            = "# comment\nUID_MIN\t\t\t 1000\nUID_MAX\t\t\t60000\nSYS_UID_MAX 999\n";
-        // clang-format off
-        QTest::newRow("first user")          << true  << 1000u  << debian                    << V::Accepted;
-        QTest::newRow("unknown")             << false << 1000u  << debian                    << V::Unknown;
-        QTest::newRow("root")                << true  << 0u     << QByteArray("UID_MIN 0")   << V::SystemAccount;
-        QTest::newRow("daemon")              << true  << 1u     << debian                    << V::SystemAccount;
-        QTest::newRow("nobody")              << true  << 65534u << debian                    << V::SystemAccount;
-        QTest::newRow("site's own minimum")  << true  << 600u   << QByteArray("UID_MIN 500") << V::Accepted;
-        QTest::newRow("no login.defs")       << true  << 999u   << QByteArray()              << V::SystemAccount;
-        QTest::newRow("garbled login.defs")  << true  << 1000u  << QByteArray("UID_MIN x\nUID_MAX") << V::Accepted;
-        // clang-format on
-    }
-    void users()
-    {
-        QFETCH(bool, found);
-        QFETCH(uint, uid);
-        QFETCH(QByteArray, loginDefs);
-        QFETCH(Spool::UserVerdict, verdict);
-        QCOMPARE(Spool::judgeUser(found, uid, Spool::uidRange(loginDefs.toStdString())), verdict);
     }
 };
 
