@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -130,6 +131,10 @@ int SpoolFolder::markRenderAttempt(const QString &name) const
 
 bool SpoolFolder::remove(const QString &name) const
 {
+    // Already gone (the user removed it): nothing is left to show again.
+    struct stat info;
+    if (::lstat(QFile::encodeName(jobFolder(name)).constData(), &info) != 0 && errno == ENOENT)
+        return true;
     const QString finished
         = m_path + QLatin1Char('/') + QLatin1String(Spool::finishedPrefix) + name;
     return QDir().rename(jobFolder(name), finished) && QDir(finished).removeRecursively();

@@ -45,7 +45,7 @@ public:
     // Counts the rendering attempts of a job, so one that brought the agent down is not tried for
     // ever; returns the attempts before this one.
     int markRenderAttempt(const QString &name) const;
-    // A job done: renamed out of the queue first, then deleted.
+    // A job done: renamed out of the queue first, then deleted. True also when it is gone already.
     bool remove(const QString &name) const;
     // A job that failed waits in the failed folder for a retry.
     bool moveAside(const QString &name) const;

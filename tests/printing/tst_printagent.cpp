@@ -278,12 +278,15 @@ private slots:
     void interrupted_data()
     {
         QTest::addColumn<bool>("killAgent"); // else the dialog is killed
-        QTest::newRow("agent killed: done at the next start") << true;
-        QTest::newRow("dialog killed: cancelled, not the previous Print") << false;
+        QTest::addColumn<bool>("removeJob"); // the user removes the job while it is shown
+        QTest::newRow("agent killed: done at the next start") << true << false;
+        QTest::newRow("dialog killed: cancelled, not the previous Print") << false << false;
+        QTest::newRow("job removed while shown: the agent goes on") << false << true;
     }
     void interrupted()
     {
         QFETCH(bool, killAgent);
+        QFETCH(bool, removeJob);
         startAgent(m_agent);
         QCOMPARE(spoolJob(m_spool, m_ann->name, "printed before", pdfs({"before"}).value(0)), 0);
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(m_out + "/printed before.pdf"), 30000);
@@ -302,11 +305,16 @@ private slots:
                 qlonglong(kept));
             QCOMPARE(kept, 1);
         } else {
+            if (removeJob)
+                QVERIFY(QDir(jobsIn(m_spool).value(0)).removeRecursively());
             ::kill(processesOf(path("bin/fmtask")).value(0), SIGKILL);
             QTRY_VERIFY_WITH_TIMEOUT(jobsIn(m_spool).isEmpty(), 30000);
             QVERIFY(!QFile::exists(m_out + "/hang.pdf"));
             QTRY_COMPARE(m_notifications.received.filter("ended unexpectedly").size(), 1);
-            qInfo("dialog killed after an earlier Print: job dropped as cancelled, user told");
+            QCOMPARE(spoolJob(m_spool, m_ann->name, "after", pdfs({"after"}).value(0)), 0);
+            QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(m_out + "/after.pdf"), 30000);
+            qInfo("dialog killed after an earlier Print: job dropped as cancelled, user told, next "
+                  "job printed");
         }
     }
 
