@@ -83,6 +83,10 @@ private slots:
         QTest::newRow("text as RTF")                  << "letter.txt" << "txt"
             << V{{"format", "rtf"}}
             << "letter.rtf"     << L{"file", "-b"}      << L{"Rich Text Format"};
+        // Only a file name is asked; Return takes the one offered.
+        QTest::newRow("save-as-only mode")            << "Receipt" << "txt"
+            << V{{"format", "pdf"}, {"chDialog_SaveAs", "true"}}
+            << "Receipt.pdf"    << L{"pdfinfo"}         << L{"Pages:           1"};
         // clang-format on
     }
     void print()
@@ -93,13 +97,15 @@ private slots:
         QFETCH(QString, file);
         QFETCH(QStringList, reader);
         QFETCH(QStringList, says);
+        const bool saveAsOnly = settings.contains("chDialog_SaveAs");
         writeSettings(settings);
         QByteArray said;
         QCOMPARE(lp({"-t", title, input(document)}, &said), 0);
         // The dialog of this job, and Return for Print.
         QByteArray window;
         QCOMPARE(runAs(nullptr, "timeout",
-                     {"30", "xdotool", "search", "--sync", "--onlyvisible", "--name", "^Vellumio$"},
+                     {"30", "xdotool", "search", "--sync", "--onlyvisible", "--name",
+                         saveAsOnly ? "^Save File As" : "^Vellumio$"},
                      display(), &window),
             0);
         QCOMPARE(runAs(nullptr, "xdotool",
