@@ -3,6 +3,7 @@
 #include "render/planrunner.h"
 #include "render/rendering.h"
 #include "render/renderplan.h"
+#include "render/stopsignals.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -33,10 +34,15 @@ int main(int argc, char *argv[])
             options, {QFileInfo(input).absoluteFilePath(), pages, Render::defaultParallel()});
         plan.outputs.first().fileName = target.fileName();
         const QString missing = Render::missingProgram(plan.programs());
-        result = missing.isEmpty() ? Render::runPlan(plan, target.absolutePath(),
-                     Render::Existing::Replace, Render::defaultParallel())
-                                   : Render::failure(Render::Failure::MissingTool,
-                                       QStringLiteral("%1 is not installed").arg(missing));
+        if (!missing.isEmpty()) {
+            result = Render::failure(
+                Render::Failure::MissingTool, QStringLiteral("%1 is not installed").arg(missing));
+        } else {
+            result = Render::renderUntilSignalled([&](const std::atomic<bool> *stop) {
+                return Render::runPlan(plan, target.absolutePath(), Render::Existing::Replace,
+                    Render::defaultParallel(), stop);
+            });
+        }
     }
     if (!result.ok()) {
         std::fprintf(stderr, "dxconv: %s\n", result.message.toLocal8Bit().constData());

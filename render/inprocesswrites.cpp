@@ -61,12 +61,25 @@ QByteArray htmlTail()
 namespace {
 
 // The page images one at a time, so a long job's HTML never sits in memory whole.
-QString writeHtmlPages(const Write &write, const QDir &work)
+// The answer of a page-by-page write that gave up.
+QString stoppedWrite()
+{
+    return QStringLiteral("stopped");
+}
+
+bool stopping(const std::atomic<bool> *stop)
+{
+    return stop && stop->load();
+}
+
+QString writeHtmlPages(const Write &write, const QDir &work, const std::atomic<bool> *stop)
 {
     QFile out(work.filePath(write.output));
     if (!out.open(QIODevice::WriteOnly) || out.write(htmlHead(write.title)) < 0)
         return out.errorString();
     for (int i = 0; i < write.inputs.size(); ++i) {
+        if (stopping(stop))
+            return stoppedWrite();
         QByteArray jpeg;
         QString error;
         if (!readFile(work.filePath(write.inputs.at(i)), &jpeg, &error))
@@ -79,56 +92,96 @@ QString writeHtmlPages(const Write &write, const QDir &work)
     return {};
 }
 
+// Enough of a JPEG to hold its frame header, as Ghostscript writes it.
+constexpr qint64 jpegHeadBytes = 64 << 10;
+
+// The pixel size of a page image from the start of its file; the whole file only when its frame
+// header lies further in.
+QSize pageSize(const QString &path, QString *error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = file.errorString();
+        return {};
+    }
+    QByteArray head = file.read(jpegHeadBytes);
+    QSize size = Swf::jpegSize(head, error);
+    if (size.isEmpty() && !file.atEnd())
+        size = Swf::jpegSize(head + file.readAll(), error);
+    return size;
+}
+
+// The movie frame by frame from the page images, so no more than one page sits in memory. The
+// stage stands at the start of the file: the images' sizes are read first.
+QString writeSwf(const Write &write, const QDir &work, const std::atomic<bool> *stop)
+{
+    QString error;
+    QStringList texts;
+    if (!write.textFile.isEmpty()) {
+        QByteArray text;
+        if (!readFile(work.filePath(write.textFile), &text, &error))
+            return error;
+        texts = TextDocuments::pagesOf(text);
+    }
+    QSize largest;
+    for (int i = 0; i < write.inputs.size(); ++i) {
+        const QSize size = pageSize(work.filePath(write.inputs.at(i)), &error);
+        if (size.isEmpty())
+            return QStringLiteral("page %1: %2").arg(i + 1).arg(error);
+        largest = largest.expandedTo(size);
+    }
+
+    Swf::Options options;
+    options.dpi = write.dpi;
+    options.textLayer = !write.textFile.isEmpty();
+    options.animate = write.animate;
+    options.password = write.password;
+    QFile out(work.filePath(write.output));
+    if (!out.open(QIODevice::WriteOnly))
+        return out.errorString();
+    Swf::Writer writer(&out, options, int(write.inputs.size()), largest);
+    for (int i = 0; i < write.inputs.size(); ++i) {
+        if (stopping(stop))
+            return stoppedWrite();
+        QByteArray jpeg;
+        if (!readFile(work.filePath(write.inputs.at(i)), &jpeg, &error))
+            return error;
+        if (!writer.addPage({jpeg, texts.value(write.pages.value(i, i + 1) - 1)}))
+            return writer.errorString();
+    }
+    if (!writer.finish())
+        return writer.errorString();
+    return out.flush() ? QString() : out.errorString();
+}
+
 } // namespace
 
-QString perform(const Write &write, const QDir &work)
+QString perform(const Write &write, const QDir &work, const std::atomic<bool> *stop)
 {
     if (write.kind == Write::HtmlPages)
-        return writeHtmlPages(write, work);
+        return writeHtmlPages(write, work, stop);
+    if (write.kind == Write::Swf)
+        return writeSwf(write, work, stop);
 
+    // The text or JSON file the document is made from.
     QString error;
-    QByteArray content;
-    QList<QByteArray> inputs;
-    for (const QString &input : write.inputs) {
-        if (!readFile(work.filePath(input), &content, &error))
-            return error;
-        inputs << content;
-    }
+    QByteArray input;
+    if (!readFile(work.filePath(write.inputs.value(0)), &input, &error))
+        return error;
 
     QByteArray document;
     switch (write.kind) {
-    case Write::Swf: {
-        QStringList texts;
-        if (!write.textFile.isEmpty()) {
-            if (!readFile(work.filePath(write.textFile), &content, &error))
-                return error;
-            texts = TextDocuments::pagesOf(content);
-        }
-        QList<Swf::Page> pages;
-        for (int i = 0; i < inputs.size(); ++i) {
-            const int index = write.pages.value(i, i + 1) - 1;
-            pages.append({inputs.at(i), texts.value(index)});
-        }
-        inputs.clear();
-        Swf::Options options;
-        options.dpi = write.dpi;
-        options.textLayer = !write.textFile.isEmpty();
-        options.animate = write.animate;
-        options.password = write.password;
-        document = Swf::document(pages, options, &error);
-        break;
-    }
     case Write::Rtf:
-        document = TextDocuments::rtf(TextDocuments::pagesOf(inputs.value(0)));
+        document = TextDocuments::rtf(TextDocuments::pagesOf(input));
         break;
     case Write::SpreadsheetMl:
-        document = TextDocuments::spreadsheetMl(TextDocuments::pagesOf(inputs.value(0)));
+        document = TextDocuments::spreadsheetMl(TextDocuments::pagesOf(input));
         break;
     case Write::HtmlPages:
+    case Write::Swf:
         break;
     case Write::PdfInfo:
-        document = PdfSecurity::infoUpdate(
-            inputs.value(0), write.pdf, QDateTime::currentDateTime(), &error);
+        document = PdfSecurity::infoUpdate(input, write.pdf, QDateTime::currentDateTime(), &error);
         break;
     }
     if (document.isEmpty())

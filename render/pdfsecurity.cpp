@@ -74,7 +74,7 @@ QString passwordProblem(const QString &password)
     return {};
 }
 
-QString refusal(const Render::PdfOptions &pdf)
+QString refusal(const PdfSettings &pdf)
 {
     if (!pdf.protect)
         return {};
@@ -91,14 +91,14 @@ QString refusal(const Render::PdfOptions &pdf)
     return {};
 }
 
-QByteArray qpdfJob(const QString &input, const QString &output, const QString &infoUpdate,
-    const Render::PdfOptions &pdf)
+QByteArray qpdfJob(
+    const QString &input, const QString &output, const QString &infoUpdate, const PdfSettings &pdf)
 {
     QJsonObject job {{QStringLiteral("inputFile"), input}, {QStringLiteral("outputFile"), output}};
     if (!infoUpdate.isEmpty())
         job.insert(QStringLiteral("updateFromJson"), infoUpdate);
     if (pdf.protect) {
-        const Render::PdfPermissions &allow = pdf.permissions;
+        const PdfPermissions &allow = pdf.permissions;
         // Accessibility is left out: qpdf always allows it with this encryption, as current
         // readers expect.
         const QJsonObject permissions {
@@ -127,8 +127,8 @@ QStringList trailerQuery(const QString &input)
         QStringLiteral("--json-object=trailer"), input};
 }
 
-QByteArray infoUpdate(const QByteArray &trailerJson, const Render::PdfOptions &pdf,
-    const QDateTime &now, QString *error)
+QByteArray infoUpdate(
+    const QByteArray &trailerJson, const PdfSettings &pdf, const QDateTime &now, QString *error)
 {
     const QJsonArray parts
         = QJsonDocument::fromJson(trailerJson).object().value(QStringLiteral("qpdf")).toArray();

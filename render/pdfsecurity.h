@@ -18,12 +18,12 @@ QString passwordProblem(const QString &password);
 
 // The first problem of the options' passwords, named for the user; empty when encryption can
 // take them (or the PDF is not protected).
-QString refusal(const Render::PdfOptions &pdf);
+QString refusal(const PdfSettings &pdf);
 
 // A qpdf job (--job-json-file) that copies `input` to `output`, applying the update file
 // `infoUpdate` when it is not empty and encrypting as `pdf` asks.
-QByteArray qpdfJob(const QString &input, const QString &output, const QString &infoUpdate,
-    const Render::PdfOptions &pdf);
+QByteArray qpdfJob(
+    const QString &input, const QString &output, const QString &infoUpdate, const PdfSettings &pdf);
 
 // The arguments of qpdf that print a file's trailer as qpdf JSON.
 QStringList trailerQuery(const QString &input);
@@ -31,8 +31,8 @@ QStringList trailerQuery(const QString &input);
 // A qpdf JSON update that gives the file whose trailer qpdf printed as `trailerJson` the
 // document information of `pdf`, dated `now`. Empty, with `error` set, when the trailer cannot
 // be read.
-QByteArray infoUpdate(const QByteArray &trailerJson, const Render::PdfOptions &pdf,
-    const QDateTime &now, QString *error);
+QByteArray infoUpdate(
+    const QByteArray &trailerJson, const PdfSettings &pdf, const QDateTime &now, QString *error);
 
 } // namespace PdfSecurity
 

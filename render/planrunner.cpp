@@ -13,6 +13,8 @@
 #include <QStandardPaths>
 
 #include <atomic>
+#include <condition_variable>
+#include <deque>
 #include <mutex>
 #include <thread>
 
@@ -21,6 +23,7 @@
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
@@ -37,6 +40,11 @@ constexpr int secondsPerRun = 60;
 constexpr int secondsPerPage = 60;
 // How much of a tool's error output is kept to name the cause.
 constexpr qsizetype keptErrorOutput = 4096;
+// A work folder left this long by a run that no longer holds it is removed by the next run.
+constexpr time_t staleSeconds = 24 * 60 * 60;
+// The private folders' names: mkdtemp's six characters after the prefix.
+constexpr char workPrefix[] = ".vellumio-";
+constexpr std::size_t workNameLength = sizeof workPrefix - 1 + 6;
 
 QString oneLine(const QString &text)
 {
@@ -67,6 +75,58 @@ QString lastLine(const QByteArray &errors)
     return {};
 }
 
+// Empties the folder open as `fd`, folders inside it included (tools make none, but a folder that
+// was left behind is not trusted to hold files only).
+void clearFolder(int fd, int depth = 0)
+{
+    DIR *dir = ::fdopendir(::dup(fd));
+    if (!dir)
+        return;
+    while (const dirent *entry = ::readdir(dir)) {
+        const char *name = entry->d_name;
+        if (std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0)
+            continue;
+        if (::unlinkat(fd, name, 0) == 0 || (errno != EISDIR && errno != EPERM) || depth > 8)
+            continue;
+        const int inner = ::openat(fd, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+        if (inner >= 0) {
+            clearFolder(inner, depth + 1);
+            ::close(inner);
+            ::unlinkat(fd, name, AT_REMOVEDIR);
+        }
+    }
+    ::closedir(dir);
+}
+
+// Removes the work folders in the folder open as `folderFd` that a run of this user left more
+// than a day ago and that no live run holds: a run holds its folder locked until it ends, however
+// it ends, so a folder that can be locked was left by a run that was killed.
+void removeStaleWorkFolders(int folderFd)
+{
+    DIR *dir = ::fdopendir(::dup(folderFd));
+    if (!dir)
+        return;
+    const time_t before = ::time(nullptr) - staleSeconds;
+    while (const dirent *entry = ::readdir(dir)) {
+        const char *name = entry->d_name;
+        struct stat info;
+        if (std::strlen(name) != workNameLength
+            || std::strncmp(name, workPrefix, sizeof workPrefix - 1) != 0
+            || ::fstatat(folderFd, name, &info, AT_SYMLINK_NOFOLLOW) != 0 || !S_ISDIR(info.st_mode)
+            || info.st_uid != ::geteuid() || info.st_mtime > before)
+            continue;
+        const int fd = ::openat(folderFd, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+        if (fd < 0)
+            continue;
+        if (::flock(fd, LOCK_EX | LOCK_NB) == 0) {
+            clearFolder(fd);
+            ::unlinkat(folderFd, name, AT_REMOVEDIR);
+        }
+        ::close(fd);
+    }
+    ::closedir(dir);
+}
+
 // The job's private folder inside the output folder, held by descriptors so that it is removed
 // whole even when the output folder was moved meanwhile.
 class WorkFolder
@@ -81,14 +141,18 @@ public:
             = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
         if (m_folderFd < 0)
             return errno;
-        QByteArray name = QFile::encodeName(folder) + "/.vellumio-XXXXXX";
+        QByteArray name = QFile::encodeName(folder) + '/' + workPrefix + "XXXXXX";
         if (!::mkdtemp(name.data()))
             return errno;
         m_path = QFile::decodeName(name);
         m_name = name.mid(name.lastIndexOf('/') + 1);
         m_fd = ::openat(
             m_folderFd, m_name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-        return m_fd < 0 ? errno : 0;
+        if (m_fd < 0)
+            return errno;
+        // Held while the run lasts, so that no other run takes the folder for one left behind.
+        ::flock(m_fd, LOCK_EX | LOCK_NB);
+        return 0;
     }
 
     QString path() const { return m_path; }
@@ -131,14 +195,7 @@ private:
     void remove()
     {
         if (m_fd >= 0) {
-            if (DIR *dir = ::fdopendir(::dup(m_fd))) {
-                while (const dirent *entry = ::readdir(dir)) {
-                    if (std::strcmp(entry->d_name, ".") != 0
-                        && std::strcmp(entry->d_name, "..") != 0)
-                        ::unlinkat(m_fd, entry->d_name, 0);
-                }
-                ::closedir(dir);
-            }
+            clearFolder(m_fd);
             ::unlinkat(m_folderFd, m_name.constData(), AT_REMOVEDIR);
             ::close(m_fd);
         }
@@ -153,11 +210,17 @@ private:
     QByteArray m_name;
 };
 
-// The first failure of a run; every task stops at its next step once one is set.
+// The first failure of a run, or the request to stop it; every task stops at its next step once
+// either is set, and a running tool is ended.
 class Outcome
 {
 public:
-    bool failed() const { return m_failed.load(); }
+    explicit Outcome(const std::atomic<bool> *stop)
+        : m_stop(stop)
+    { }
+    bool stopped() const { return m_stop && m_stop->load(); }
+    const std::atomic<bool> *stopFlag() const { return m_stop; }
+    bool failed() const { return m_failed.load() || stopped(); }
     void fail(Failure cause, const QString &message)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -167,10 +230,13 @@ public:
     Result result() const
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
+        if (!m_failed.load() && stopped())
+            return failure(Failure::ToolFailed, QStringLiteral("Rendering was stopped."));
         return m_result;
     }
 
 private:
+    const std::atomic<bool> *m_stop;
     std::atomic<bool> m_failed {false};
     mutable std::mutex m_mutex;
     Result m_result;
@@ -189,16 +255,40 @@ public:
         m_environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     }
 
+    // Runs the tasks of a stage on `parallel` threads, each taking the next task as it is free.
+    // The tasks that follow a finished one go first, so that pages are converted before more are
+    // rendered and the work folder stays small.
     void runStage(const Stage &stage, int parallel)
     {
-        std::atomic<int> next {0};
+        std::deque<const Task *> queue;
+        for (const Task &task : stage.tasks)
+            queue.push_back(&task);
+        std::mutex mutex;
+        std::condition_variable changed;
+        int running = 0;
         const auto worker = [&] {
-            for (int i = next++; i < stage.tasks.size() && !m_outcome.failed(); i = next++)
-                runTask(stage.tasks.at(i));
+            std::unique_lock<std::mutex> lock(mutex);
+            for (;;) {
+                changed.wait(lock, [&] { return !queue.empty() || running == 0; });
+                if (queue.empty() || m_outcome.failed())
+                    break;
+                const Task *task = queue.front();
+                queue.pop_front();
+                ++running;
+                lock.unlock();
+                const bool done = runTask(*task);
+                lock.lock();
+                --running;
+                if (done) {
+                    for (auto it = task->then.crbegin(); it != task->then.crend(); ++it)
+                        queue.push_front(&*it);
+                }
+                changed.notify_all();
+            }
+            changed.notify_all();
         };
-        const int threads = qMin(parallel, int(stage.tasks.size()));
         std::vector<std::thread> helpers;
-        for (int i = 1; i < threads; ++i)
+        for (int i = 1; i < parallel; ++i)
             helpers.emplace_back(worker);
         worker();
         for (std::thread &helper : helpers)
@@ -206,11 +296,11 @@ public:
     }
 
 private:
-    void runTask(const Task &task)
+    bool runTask(const Task &task)
     {
         for (const Step &step : task.steps) {
             if (m_outcome.failed())
-                return;
+                return false;
             bool done = step.isWrite ? write(step.write) : run(step.command);
             if (done && diskFull()) {
                 failed(QString(), QByteArray());
@@ -219,8 +309,9 @@ private:
             for (const QString &file : step.removeAfter)
                 m_work.removeFile(file);
             if (!done)
-                return;
+                return false;
         }
+        return true;
     }
 
     bool diskFull() const
@@ -231,9 +322,11 @@ private:
 
     bool write(const Write &write)
     {
-        const QString error = perform(write, QDir(m_work.path()));
+        const QString error = perform(write, QDir(m_work.path()), m_outcome.stopFlag());
         if (error.isEmpty())
             return true;
+        if (m_outcome.failed())
+            return false;
         failed(QStringLiteral("Writing %1 failed: %2").arg(write.output, error), QByteArray());
         return false;
     }
@@ -427,8 +520,12 @@ QString missingProgram(const QStringList &programs)
     return {};
 }
 
-Result runPlan(const Plan &plan, const QString &folder, Existing existing, int parallel)
+Result runPlan(const Plan &plan, const QString &folder, Existing existing, int parallel,
+    const std::atomic<bool> *stop)
 {
+    Outcome outcome(stop);
+    if (outcome.failed())
+        return outcome.result();
     WorkFolder work;
     if (const int error = work.create(folder)) {
         const QString reason = QString::fromLocal8Bit(std::strerror(error));
@@ -439,7 +536,8 @@ Result runPlan(const Plan &plan, const QString &folder, Existing existing, int p
             QStringLiteral("The output folder cannot be written: %1: %2").arg(folder, reason));
     }
 
-    Outcome outcome;
+    removeStaleWorkFolders(work.folderFd());
+
     Runner runner(work, folder, outcome);
     for (const Stage &stage : plan.stages) {
         runner.runStage(stage, qMax(1, parallel));

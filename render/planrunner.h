@@ -7,12 +7,17 @@
 
 #include <QString>
 
+#include <atomic>
+
 namespace Render {
 
 // Runs `plan` in a private folder (owner-only, a unique name) inside `folder`, at most
 // `parallel` tasks side by side, then moves the outputs into `folder` under their names, all of
-// them or none. On any failure the private folder goes and nothing new is left in `folder`.
-Result runPlan(const Plan &plan, const QString &folder, Existing existing, int parallel);
+// them or none. On any failure, and when `stop` is set before the files are moved, the tools are
+// ended, the private folder goes and nothing new is left in `folder`. Private folders of this
+// user's runs that were killed more than a day ago go too.
+Result runPlan(const Plan &plan, const QString &folder, Existing existing, int parallel,
+    const std::atomic<bool> *stop = nullptr);
 
 // The first program of `programs` that is not installed, or an empty text.
 QString missingProgram(const QStringList &programs);

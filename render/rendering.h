@@ -5,6 +5,8 @@
 #include "render/renderjob.h"
 #include "render/renderoptions.h"
 
+#include <atomic>
+
 namespace Render {
 
 // The pages of a PDF as its reader counts them; 0, with the cause in `failure`, when the PDF
@@ -12,8 +14,14 @@ namespace Render {
 int pageCount(const QString &pdf, Result *failure);
 
 // Renders `jobPdf` with `options`, at most `parallel` tools side by side: the checks of the
-// folder and the name, the page count, the plan, the tools it needs, then the run.
-Result renderJob(const Options &options, const QString &jobPdf, Existing existing, int parallel);
+// folder and the name, the page count, the plan, the tools it needs, then the run, which ends
+// early, leaving nothing behind, once `stop` is set.
+Result renderJob(const Options &options, const QString &jobPdf, Existing existing, int parallel,
+    const std::atomic<bool> *stop = nullptr);
+
+// renderJob() of renderjob.h, ended early once `stop` is set.
+Result renderJob(
+    const QString &jobPdf, const QString &name, Existing existing, const std::atomic<bool> *stop);
 
 // The tools side by side when nothing says otherwise: one per core.
 int defaultParallel();

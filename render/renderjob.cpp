@@ -72,7 +72,8 @@ int pageCount(const QString &pdf, Result *result)
     return qMax(count, 0);
 }
 
-Result renderJob(const Options &given, const QString &jobPdf, Existing existing, int parallel)
+Result renderJob(const Options &given, const QString &jobPdf, Existing existing, int parallel,
+    const std::atomic<bool> *stop)
 {
     Result result;
     const int pages = pageCount(jobPdf, &result);
@@ -104,15 +105,21 @@ Result renderJob(const Options &given, const QString &jobPdf, Existing existing,
         return failure(Failure::MissingTool,
             QStringLiteral("%1 is not installed (Debian package %2)")
                 .arg(missing, packageOf(missing)));
-    return runPlan(plan, folder.absoluteFilePath(), existing, parallel);
+    return runPlan(plan, folder.absoluteFilePath(), existing, parallel, stop);
 }
 
-Result renderJob(const QString &jobPdf, const QString &name, Existing existing)
+Result renderJob(
+    const QString &jobPdf, const QString &name, Existing existing, const std::atomic<bool> *stop)
 {
     Options options = currentOptions();
     if (!name.isEmpty())
         options.name = name;
-    return renderJob(options, jobPdf, existing, defaultParallel());
+    return renderJob(options, jobPdf, existing, defaultParallel(), stop);
+}
+
+Result renderJob(const QString &jobPdf, const QString &name, Existing existing)
+{
+    return renderJob(jobPdf, name, existing, nullptr);
 }
 
 } // namespace Render

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // vellumio-render JOB.pdf [NAME]: renders a job from the user's current settings, as the printer
 // does after Print, and prints the paths it wrote.
-#include "render/renderjob.h"
+#include "render/rendering.h"
+#include "render/stopsignals.h"
 
 #include <QCoreApplication>
 
@@ -20,7 +21,10 @@ int main(int argc, char *argv[])
         return 2;
     }
 
-    const Render::Result result = Render::renderJob(job, name, Render::Existing::Replace);
+    // SIGTERM and SIGINT end the tools and remove the work folder before the program ends.
+    const Render::Result result = Render::renderUntilSignalled([&](const std::atomic<bool> *stop) {
+        return Render::renderJob(job, name, Render::Existing::Replace, stop);
+    });
     if (!result.ok()) {
         std::fprintf(stderr, "vellumio-render: %s\n", result.message.toLocal8Bit().constData());
         return 1;

@@ -9,12 +9,6 @@ namespace Render {
 
 namespace {
 
-// The extension settings in format order.
-constexpr std::array<Settings::Value, Formats::Count> extensionValues
-    = {Settings::ExtBmp, Settings::ExtPng, Settings::ExtJpg, Settings::ExtJp2, Settings::ExtTif,
-        Settings::ExtGif, Settings::ExtSwf, Settings::ExtPdf, Settings::ExtRtf, Settings::ExtMsxml,
-        Settings::ExtHtm, Settings::ExtDjvu};
-
 // The stored token of the chosen format. A token the dialog would not load (unknown, or empty
 // after a save-as-only run that matched no filter) renders as the dialog would then show it.
 Formats::Index formatOf(const QString &token)
@@ -28,14 +22,35 @@ int qualityOf(const SettingsKey &key, Settings::Value value)
     return qBound(1, key.integer(value), 100);
 }
 
+// A text value, unscrambled when it is stored scrambled.
+QString textOf(const SettingsKey &key, const Settings::Entry &row)
+{
+    const QString text = key.text(row.value);
+    return row.form == Settings::Form::Scrambled ? unscramblePassword(text) : text;
+}
+
+// The PDF dialog's values and the extensions, each read where the settings table binds it.
+void readBound(const SettingsKey &key, Options &o)
+{
+    for (const Settings::Entry &row : Settings::entries()) {
+        const Settings::Binding &to = row.binding;
+        if (to.pdfText)
+            o.pdf.*to.pdfText = textOf(key, row);
+        else if (to.pdfFlag)
+            o.pdf.*to.pdfFlag = key.flag(row.value);
+        else if (to.permission)
+            o.pdf.permissions.*to.permission = key.flag(row.value);
+        else if (Formats::byIndex(to.extensionOf))
+            o.extensions[to.extensionOf] = key.text(row.value);
+    }
+}
+
 } // namespace
 
-Formats::Extensions defaultExtensions()
+bool hasInformation(const PdfSettings &pdf)
 {
-    Formats::Extensions extensions;
-    for (const Formats::Format &format : Formats::all())
-        extensions[format.index] = QString::fromLatin1(format.defaultExtension);
-    return extensions;
+    return !(pdf.title.isEmpty() && pdf.author.isEmpty() && pdf.subject.isEmpty()
+        && pdf.keywords.isEmpty() && pdf.creator.isEmpty() && pdf.producer.isEmpty());
 }
 
 Options readOptions(const SettingsKey &options, const SettingsKey &user)
@@ -62,32 +77,13 @@ Options readOptions(const SettingsKey &options, const SettingsKey &user)
     o.swfText = options.flag(Settings::SwfText);
     o.swfAnimate = options.flag(Settings::SwfAnimate);
     if (options.flag(Settings::BProtectSwf))
-        o.swfPassword = unscramblePassword(options.text(Settings::ProtectSwf));
-
-    o.pdf.title = options.text(Settings::PdfTitle);
-    o.pdf.author = options.text(Settings::PdfAuthor);
-    o.pdf.subject = options.text(Settings::PdfSubject);
-    o.pdf.keywords = options.text(Settings::PdfKeywords);
-    o.pdf.creator = options.text(Settings::PdfCreator);
-    o.pdf.producer = options.text(Settings::PdfProducer);
-    o.pdf.protect = options.flag(Settings::PdfProtect);
-    o.pdf.userPassword = unscramblePassword(options.text(Settings::PdfUserPw));
-    o.pdf.ownerPassword = unscramblePassword(options.text(Settings::PdfOwnerPw));
-    o.pdf.permissions.print = options.flag(Settings::PdfProtectPrint);
-    o.pdf.permissions.edit = options.flag(Settings::PdfProtectEdit);
-    o.pdf.permissions.copy = options.flag(Settings::PdfProtectCopy);
-    o.pdf.permissions.editNotes = options.flag(Settings::PdfProtectEditNotes);
-    o.pdf.permissions.fillAndSign = options.flag(Settings::PdfProtectFillAndSign);
-    o.pdf.permissions.accessible = options.flag(Settings::PdfProtectAccessible);
-    o.pdf.permissions.assemble = options.flag(Settings::PdfProtectAssemble);
-    o.pdf.permissions.highPrint = options.flag(Settings::PdfProtectHighPrint);
+        o.swfPassword = textOf(options, Settings::entry(Settings::ProtectSwf));
+    readBound(options, o);
 
     // Driver contract: only the exact text "true" asks for the text file.
     o.extractText = options.text(Settings::ExtractText) == QLatin1String("true");
     o.prefixFirstPage = options.flag(Settings::PrefixFirstPage);
     o.customNumber = options.text(Settings::CustomNumber);
-    for (int i = 0; i < Formats::Count; ++i)
-        o.extensions[i] = options.text(extensionValues[i]);
 
     // Outside the dialog: the resolution of raster pages, for a site that wants another one.
     bool ok = false;

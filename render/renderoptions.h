@@ -3,6 +3,7 @@
 #define VELLUMIO_RENDEROPTIONS_H
 
 #include "formats/formatcatalogue.h"
+#include "settings/jobsettings.h"
 
 #include <QString>
 
@@ -10,42 +11,8 @@ class SettingsKey;
 
 namespace Render {
 
-// The eight PDF permissions of the advanced PDF dialog, true where the user allows.
-struct PdfPermissions
-{
-    bool print = false;
-    bool edit = false;
-    bool copy = false;
-    bool editNotes = false;
-    bool fillAndSign = false;
-    bool accessible = false;
-    bool assemble = false;
-    bool highPrint = false;
-};
-
-// Document information, passwords and permissions of a PDF, the passwords unscrambled.
-struct PdfOptions
-{
-    QString title;
-    QString author;
-    QString subject;
-    QString keywords;
-    QString creator;
-    QString producer;
-    bool protect = false;
-    QString userPassword;
-    QString ownerPassword;
-    PdfPermissions permissions;
-
-    bool hasInformation() const
-    {
-        return !(title.isEmpty() && author.isEmpty() && subject.isEmpty() && keywords.isEmpty()
-            && creator.isEmpty() && producer.isEmpty());
-    }
-};
-
-// The extensions of the settings table's defaults, by format index.
-Formats::Extensions defaultExtensions();
+// Whether any document information is set.
+bool hasInformation(const PdfSettings &pdf);
 
 // Everything rendering takes from the settings: the values the dialog left after Print, with
 // the defaults of the settings table where a value is absent.
@@ -69,11 +36,11 @@ struct Options
     bool swfText = true;
     bool swfAnimate = false;
     QString swfPassword; // empty: the SWF is not protected
-    PdfOptions pdf;
+    PdfSettings pdf; // the PDF dialog's values, the passwords unscrambled
     bool extractText = false;
     bool prefixFirstPage = false;
     QString customNumber;
-    Formats::Extensions extensions = defaultExtensions();
+    Formats::Extensions extensions = JobSettings().extensions;
     int dpi = defaultDpi;
 
     QString folder; // the output folder, as stored

@@ -140,7 +140,7 @@ private:
     Stage &stage(int index);
     void addTask(int stageIndex, const QList<Step> &steps)
     {
-        stage(stageIndex).tasks.append({steps});
+        stage(stageIndex).tasks.append({steps, {}});
     }
     bool oneFile(bool multipage) const { return multipage || m_job.pages == 1; }
 
@@ -172,7 +172,8 @@ Stage &Planner::stage(int index)
 }
 
 // Renders every page with `device` into its own file, spread over runs of Ghostscript that may
-// go side by side, each followed by the steps that turn its pages into finished page files.
+// go side by side. The steps that turn a rendered page into its finished file are a task of their
+// own, so a run's pages are converted on every core, not one after another behind the run.
 QStringList Planner::pagedRaster(const QString &device, const QString &extension,
     const QStringList &options, const PageSteps &convert)
 {
@@ -184,17 +185,18 @@ QStringList Planner::pagedRaster(const QString &device, const QString &extension
         if (count < m_job.pages)
             rangeOptions << QStringLiteral("-dFirstPage=") + number(chunk.first)
                          << QStringLiteral("-dLastPage=") + number(chunk.last);
-        QList<Step> steps {
-            gs(device, rangeOptions, prefix + QStringLiteral("%d.") + extension, source(), count)};
+        Task task {
+            {gs(device, rangeOptions, prefix + QStringLiteral("%d.") + extension, source(), count)},
+            {}};
         for (int page = chunk.first; page <= chunk.last; ++page) {
             const QString rendered
                 = prefix + number(page - chunk.first + 1) + QLatin1Char('.') + extension;
             QString done = rendered;
             if (convert)
-                steps << convert(page, rendered, done);
+                task.then.append({convert(page, rendered, done), {}});
             pages << done;
         }
-        addTask(0, steps);
+        stage(0).tasks.append(task);
     }
     return pages;
 }
@@ -380,7 +382,7 @@ void Planner::pdf()
         options << str("-dAutoFilterColorImages=false") << str("-dColorImageFilter=/DCTEncode")
                 << str("-dAutoFilterGrayImages=false") << str("-dGrayImageFilter=/DCTEncode")
                 << str("-dDownsampleColorImages=false") << str("-dDownsampleGrayImages=false");
-        if (o.pdf.hasInformation())
+        if (hasInformation(o.pdf))
             options << str("-dOmitXMP");
         options << str("-c")
                 << QStringLiteral("<< /ColorImageDict ") + tables
@@ -404,7 +406,7 @@ void Planner::pdf()
     } else {
         files << output;
     }
-    if (o.pdf.hasInformation() || o.pdf.protect)
+    if (hasInformation(o.pdf) || o.pdf.protect)
         protectPdfs(files, 1);
     else
         addOutputs(files);
@@ -419,7 +421,7 @@ void Planner::protectPdfs(const QStringList &files, int stageIndex)
         const QString base = file.chopped(4);
         QList<Step> steps;
         QString update;
-        if (o.pdf.hasInformation()) {
+        if (hasInformation(o.pdf)) {
             const QString trailer = base + QStringLiteral(".trailer.json");
             update = base + QStringLiteral(".update.json");
             Step query = run(str("qpdf"), PdfSecurity::trailerQuery(file));
@@ -631,13 +633,24 @@ Plan Planner::plan()
 QStringList Plan::programs() const
 {
     QStringList result;
+    for (const Step &step : steps()) {
+        if (!step.isWrite && !result.contains(step.command.program))
+            result << step.command.program;
+    }
+    return result;
+}
+
+QList<Step> Plan::steps() const
+{
+    QList<Step> result;
+    const std::function<void(const Task &)> add = [&](const Task &task) {
+        result << task.steps;
+        for (const Task &next : task.then)
+            add(next);
+    };
     for (const Stage &stage : stages) {
-        for (const Task &task : stage.tasks) {
-            for (const Step &step : task.steps) {
-                if (!step.isWrite && !result.contains(step.command.program))
-                    result << step.command.program;
-            }
-        }
+        for (const Task &task : stage.tasks)
+            add(task);
     }
     return result;
 }

@@ -47,7 +47,7 @@ struct Write
     int dpi = 0; // SWF and HTML: resolution of the page images
     bool animate = false; // SWF
     QString password; // SWF: empty when not protected
-    PdfOptions pdf; // PDF information
+    PdfSettings pdf; // PDF information
 };
 
 // A step is either a command or a write.
@@ -59,10 +59,12 @@ struct Step
     QStringList removeAfter; // work files no longer needed once the step is done
 };
 
-// Steps run one after another.
+// Steps run one after another; once they are done, the tasks in `then` may start, side by side
+// with the rest of the stage (the pages a Ghostscript run rendered, each converted on its own).
 struct Task
 {
     QList<Step> steps;
+    QList<Task> then;
 };
 
 // Tasks that may run side by side, one per core.
@@ -87,6 +89,8 @@ struct Plan
 
     // Every program the plan runs, each once.
     QStringList programs() const;
+    // Every step, in an order that one core may run them in.
+    QList<Step> steps() const;
 };
 
 // What a plan is made for besides the options.

@@ -4,6 +4,7 @@
 // failure with nothing left behind.
 #include "render/renderjob.h"
 #include "settings/passwordscrambling.h"
+#include "tests/writers/swfreader.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -14,11 +15,16 @@
 #include <QTest>
 #include <QtEndian>
 
+#include <csignal>
+
 #include <atomic>
 #include <thread>
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Render;
 
@@ -127,36 +133,6 @@ QString quantisationOf(const QByteArray &jpeg)
     return table < 0 ? QString() : QString::number(quint8(jpeg.at(table + 5)));
 }
 
-// The uncompressed body of a compressed SWF after its 8-byte header.
-QByteArray swfBody(const QByteArray &swf)
-{
-    QByteArray sized(4, 0);
-    qToBigEndian<quint32>(qFromLittleEndian<quint32>(swf.constData() + 4) - 8, sized.data());
-    return qUncompress(sized + swf.mid(8));
-}
-
-// The tags of an SWF body by code, and its frame count.
-QList<int> swfTags(const QByteArray &body, int *frames)
-{
-    const int rectBits = 5 + 4 * (quint8(body.at(0)) >> 3);
-    int at = (rectBits + 7) / 8 + 2;
-    *frames = qFromLittleEndian<quint16>(body.constData() + at);
-    at += 2;
-    QList<int> codes;
-    while (at + 2 <= body.size()) {
-        const quint16 head = qFromLittleEndian<quint16>(body.constData() + at);
-        int length = head & 0x3f;
-        at += 2;
-        if (length == 0x3f) {
-            length = int(qFromLittleEndian<quint32>(body.constData() + at));
-            at += 4;
-        }
-        codes << (head >> 6);
-        at += length;
-    }
-    return codes;
-}
-
 // Pages (frames, worksheets) of one output, read by the format's own reader.
 int pagesOf(const QString &file, const QString &password)
 {
@@ -168,11 +144,8 @@ int pagesOf(const QString &file, const QString &password)
         return run("tiffinfo", {file}).count("TIFF Directory");
     if (data.startsWith("AT&T"))
         return run("djvused", {"-e", "n", file}).toInt();
-    if (data.startsWith("CWS")) {
-        int frames = 0;
-        swfTags(swfBody(data), &frames);
-        return frames;
-    }
+    if (data.startsWith("CWS"))
+        return SwfFile::read(data).frameCount;
     if (data.startsWith("{\\rtf"))
         return data.count("\\page ") + data.count("\\page\n") + data.count("\\page\\") + 1;
     if (data.contains("<Workbook"))
@@ -195,7 +168,7 @@ bool hasText(const QString &file, const QString &password)
     if (data.startsWith("AT&T"))
         return run("djvutxt", {file}).contains(pageWord);
     if (data.startsWith("CWS"))
-        return swfBody(data).contains(pageWord.toUtf8());
+        return SwfFile::read(data).tags.value(37).join().contains(pageWord.toUtf8());
     return data.contains(pageWord.toUtf8());
 }
 
@@ -228,11 +201,10 @@ QString propertyOf(const QString &name, const QString &file, const QVariantMap &
         const QString info = run("qpdf", {"--show-encryption", "--password=" + password, file});
         return info.section(name.mid(11) + ": ", 1, 1).section('\n', 0, 0);
     }
-    if (name == "swf protect" || name == "swf stop") {
-        int frames = 0;
-        const QList<int> tags = swfTags(swfBody(contentOf(file)), &frames);
-        return tags.contains(name == "swf protect" ? 24 : 12) ? "yes" : "no";
-    }
+    if (name == "swf protect" || name == "swf stop")
+        return SwfFile::read(contentOf(file)).codes.contains(name == "swf protect" ? 24 : 12)
+            ? "yes"
+            : "no";
     return "unknown property " + name;
 }
 
@@ -253,13 +225,18 @@ private slots:
     void existing();
     void folderDisappears();
     void diskFills();
-    void passwordsStayOffCommandLines();
     void command_data();
     void command();
+    void stoppedBySignal_data();
+    void stoppedBySignal();
+    void staleWorkFolders_data();
+    void staleWorkFolders();
 
 private:
     void writeSettings(const QVariantMap &settings);
     QStringList leftovers() const;
+    QString twentyPages();
+    void startRender(QProcess &process, const QStringList &arguments);
 
     QTemporaryDir m_dir;
     QString m_job; // two pages
@@ -513,87 +490,64 @@ void tst_Render::formats()
     }
 }
 
-enum class Situation {
-    Damaged,
-    Empty,
-    NoPages,
-    NoFolder,
-    FolderIsFile,
-    RefusedPassword,
-    LongPassword,
-    ToolMissing
-};
-Q_DECLARE_METATYPE(Situation)
-
 void tst_Render::failures_data()
 {
-    QTest::addColumn<Situation>("situation");
+    QTest::addColumn<QByteArray>("job"); // the job's PDF
     QTest::addColumn<QVariantMap>("settings");
+    QTest::addColumn<QStringList>("tools"); // when given, the only programs on the PATH
     QTest::addColumn<Failure>("expected");
     QTest::addColumn<QString>("named"); // a word the message holds
 
+    const QByteArray good = contentOf(m_job);
     const QVariantMap png {{"format", "png"}};
-    QTest::newRow("damaged job") << Situation::Damaged << png << Failure::DamagedJob
+    QTest::newRow("damaged job") << good.left(300) << png << QStringList() << Failure::DamagedJob
                                  << "cannot be read";
-    QTest::newRow("empty job") << Situation::Empty << png << Failure::DamagedJob
+    QTest::newRow("empty job") << QByteArray() << png << QStringList() << Failure::DamagedJob
                                << "cannot be read";
     QTest::newRow("job without pages")
-        << Situation::NoPages << png << Failure::DamagedJob << "no pages";
+        << QByteArray("%PDF-1.4\n1 0 obj\n<< /Type /Catalog /Pages 2 0 R >>\nendobj\n2 0 obj\n"
+                      "<< /Type /Pages /Kids [] /Count 0 >>\nendobj\ntrailer\n<< /Root 1 0 R >>\n"
+                      "%%EOF\n")
+        << png << QStringList() << Failure::DamagedJob << "no pages";
     QTest::newRow("folder missing")
-        << Situation::NoFolder << png << Failure::FolderGone << "does not exist";
-    QTest::newRow("folder is a file")
-        << Situation::FolderIsFile << png << Failure::FolderGone << "does not exist";
+        << good << QVariantMap {{"format", "png"}, {"Path", m_dir.filePath("nowhere/")}}
+        << QStringList() << Failure::FolderGone << "does not exist";
+    QTest::newRow("folder is a file") << good << QVariantMap {{"format", "png"}, {"Path", m_job}}
+                                      << QStringList() << Failure::FolderGone << "does not exist";
     QTest::newRow("non-Latin PDF password")
-        << Situation::RefusedPassword
-        << QVariantMap {{"format", "pdf"}, {"pdf_protect", true}, {"pdf_user_pw", "пароль"}}
-        << Failure::Refused << "user password";
-    QTest::newRow("PDF password too long") << Situation::LongPassword
+        << good << QVariantMap {{"format", "pdf"}, {"pdf_protect", true}, {"pdf_user_pw", "пароль"}}
+        << QStringList() << Failure::Refused << "user password";
+    QTest::newRow("PDF password too long") << good
                                            << QVariantMap {{"format", "pdf"}, {"pdf_protect", true},
                                                   {"pdf_owner_pw", QString(40, 'x')}}
-                                           << Failure::Refused << "longer than 32";
+                                           << QStringList() << Failure::Refused << "longer than 32";
     QTest::newRow("DjVu without pdf2djvu")
-        << Situation::ToolMissing << QVariantMap {{"format", "djvu"}} << Failure::MissingTool
-        << "pdf2djvu";
+        << good << QVariantMap {{"format", "djvu"}} << QStringList {"gs", "qpdf", "pdftotext"}
+        << Failure::MissingTool << "pdf2djvu";
 }
 
 void tst_Render::failures()
 {
-    QFETCH(Situation, situation);
+    QFETCH(QByteArray, job);
     QFETCH(QVariantMap, settings);
+    QFETCH(QStringList, tools);
     QFETCH(Failure, expected);
     QFETCH(QString, named);
 
-    QString job = m_job;
-    const QString broken = m_dir.filePath("broken.pdf");
-    QFile::remove(broken);
-    QFile file(broken);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    if (situation == Situation::Damaged)
-        file.write(contentOf(m_job).left(300));
-    if (situation == Situation::NoPages)
-        file.write(
-            "%PDF-1.4\n1 0 obj\n<< /Type /Catalog /Pages 2 0 R >>\nendobj\n2 0 obj\n"
-            "<< /Type /Pages /Kids [] /Count 0 >>\nendobj\ntrailer\n<< /Root 1 0 R >>\n%%EOF\n");
+    QFile file(m_dir.filePath("row.pdf"));
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(job);
     file.close();
-    if (situation == Situation::Damaged || situation == Situation::Empty
-        || situation == Situation::NoPages)
-        job = broken;
-    if (situation == Situation::NoFolder)
-        settings.insert("Path", m_dir.filePath("nowhere/"));
-    if (situation == Situation::FolderIsFile)
-        settings.insert("Path", broken);
-
     const QByteArray path = qgetenv("PATH");
-    if (situation == Situation::ToolMissing) {
-        // A PATH holding every tool but the one that is missing.
+    if (!tools.isEmpty()) {
         const QString bin = m_dir.filePath("bin");
         QDir().mkpath(bin);
-        for (const char *tool : {"gs", "qpdf", "pdftotext"})
+        for (const QString &tool : tools)
             QFile::link(QStandardPaths::findExecutable(tool), bin + '/' + tool);
         qputenv("PATH", QFile::encodeName(bin));
     }
     writeSettings(settings);
-    const Result result = renderJob(job);
+    const Result result = renderJob(file.fileName());
     qputenv("PATH", path);
 
     QCOMPARE(result.failure, expected);
@@ -681,52 +635,6 @@ void tst_Render::diskFills()
     QCOMPARE(left, QStringList());
 }
 
-// Another user can read every process's command line: the passwords go to qpdf in an owner-only
-// job file, never as arguments.
-void tst_Render::passwordsStayOffCommandLines()
-{
-    const QString user = "Us3r-secret", owner = "Own3r-secret";
-    writeSettings({{"format", "pdf"}, {"multipage_pdf", "false"}, {"pdf_protect", true},
-        {"pdf_user_pw", user}, {"pdf_owner_pw", owner}, {"pdf_title", "T"}});
-    std::atomic<bool> done {false};
-    QStringList seen, exposed, jobFileModes;
-    std::thread watcher([&] {
-        while (!done) {
-            QDirIterator processes("/proc", {"[0-9]*"}, QDir::Dirs);
-            while (processes.hasNext()) {
-                const QByteArray line = contentOf(processes.next() + "/cmdline").replace('\0', ' ');
-                const QByteArray program = line.left(line.indexOf(' ')).split('/').last();
-                if (program == "qpdf" || program == "gs")
-                    seen << QString::fromUtf8(program);
-                if (line.contains(user.toUtf8()) || line.contains(owner.toUtf8()))
-                    exposed << QString::fromUtf8(line);
-            }
-            QDirIterator jobFiles(m_out, {"qpdf-job-*.json"}, QDir::Files | QDir::Hidden,
-                QDirIterator::Subdirectories);
-            while (jobFiles.hasNext())
-                jobFileModes << QString::number(QFileInfo(jobFiles.next()).permissions(), 16);
-        }
-    });
-    // Twenty pages, each encrypted on its own: many qpdf runs to watch.
-    const QString job = m_dir.filePath("twenty.pdf");
-    makeJob(job, 20, false);
-    const Result result = renderJob(job);
-    done = true;
-    watcher.join();
-    QVERIFY2(result.ok(), qPrintable(result.message));
-    QVERIFY(!seen.isEmpty());
-    QCOMPARE(exposed, QStringList());
-    jobFileModes.removeDuplicates();
-    QVERIFY(jobFileModes.size() <= 1);
-    if (!jobFileModes.isEmpty())
-        QCOMPARE(jobFileModes.first(),
-            QString::number(
-                QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser, 16));
-    QCOMPARE(run("qpdf", {"--show-encryption", "--password=" + user, result.files.value(19)})
-                 .contains("R = 4"),
-        true);
-}
-
 void tst_Render::command_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -748,15 +656,8 @@ void tst_Render::command()
     QFETCH(QStringList, printed);
 
     writeSettings({{"format", "pdf"}});
-    const QString program
-        = QFileInfo(qEnvironmentVariable("FMTASK_BINARY")).dir().filePath("vellumio-render");
     QProcess process;
-    process.setWorkingDirectory(m_dir.path());
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("XDG_CONFIG_HOME", m_dir.filePath("user"));
-    environment.insert("XDG_CONFIG_DIRS", m_dir.filePath("machine"));
-    process.setProcessEnvironment(environment);
-    process.start(program, arguments);
+    startRender(process, arguments);
     QVERIFY(process.waitForFinished(120000));
     QCOMPARE(process.exitCode(), status);
     QStringList paths;
@@ -767,6 +668,111 @@ void tst_Render::command()
         paths);
     const QString errors = QString::fromLocal8Bit(process.readAllStandardError());
     QCOMPARE(errors.count('\n'), status == 0 ? 0 : 1);
+}
+
+QString tst_Render::twentyPages()
+{
+    const QString job = m_dir.filePath("twenty.pdf");
+    if (!QFileInfo::exists(job))
+        makeJob(job, 20, false);
+    return job;
+}
+
+// vellumio-render as the user runs it, with the test's settings keys.
+void tst_Render::startRender(QProcess &process, const QStringList &arguments)
+{
+    process.setWorkingDirectory(m_dir.path());
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_CONFIG_HOME", m_dir.filePath("user"));
+    environment.insert("XDG_CONFIG_DIRS", m_dir.filePath("machine"));
+    process.setProcessEnvironment(environment);
+    process.start(
+        QFileInfo(qEnvironmentVariable("FMTASK_BINARY")).dir().filePath("vellumio-render"),
+        arguments);
+}
+
+void tst_Render::stoppedBySignal_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("SIGTERM") << SIGTERM;
+    QTest::newRow("SIGINT") << SIGINT;
+}
+
+// vellumio-render ended in the middle of a job: it ends by the signal, its tools end with it and
+// nothing is left in the output folder.
+void tst_Render::stoppedBySignal()
+{
+    QFETCH(int, signal);
+    const QString job = twentyPages();
+    writeSettings({{"format", "jp2"}, {"render_dpi", 150}});
+    QProcess process;
+    startRender(process, {job});
+    QVERIFY(process.waitForStarted());
+    // Mid-render: once the first page is finished in the work folder.
+    bool started = false;
+    for (int i = 0; i < 1200 && !started && process.state() == QProcess::Running; ++i) {
+        QThread::msleep(50);
+        started = QDirIterator(
+            m_out, {"*.jp2"}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories)
+                      .hasNext();
+    }
+    QVERIFY2(started, process.readAllStandardError().constData());
+    ::kill(pid_t(process.processId()), signal);
+    QVERIFY(process.waitForFinished(30000));
+    QCOMPARE(process.exitStatus(), QProcess::CrashExit);
+    QCOMPARE(process.exitCode(), signal);
+    QCOMPARE(leftovers(), QStringList());
+    QStringList working; // tools still running in the output folder
+    QDirIterator processes("/proc", {"[0-9]*"}, QDir::Dirs);
+    while (processes.hasNext()) {
+        const QString folder = QFileInfo(processes.next() + "/cwd").symLinkTarget();
+        if (folder.startsWith(QDir(m_out).absolutePath()))
+            working << folder;
+    }
+    QCOMPARE(working, QStringList());
+}
+
+void tst_Render::staleWorkFolders_data()
+{
+    QTest::addColumn<int>("ageHours");
+    QTest::addColumn<bool>("held"); // locked, as a live run holds its folder
+    QTest::addColumn<bool>("othersUser");
+    QTest::addColumn<bool>("removed");
+    QTest::newRow("left two days ago") << 48 << false << false << true;
+    QTest::newRow("left an hour ago") << 1 << false << false << false;
+    QTest::newRow("two days old, a live run's") << 48 << true << false << false;
+    QTest::newRow("two days old, another user's") << 48 << false << true << false;
+}
+
+// The work folder of a run that was killed is removed by a later run, and no other.
+void tst_Render::staleWorkFolders()
+{
+    QFETCH(int, ageHours);
+    QFETCH(bool, held);
+    QFETCH(bool, othersUser);
+    QFETCH(bool, removed);
+    if (othersUser && ::geteuid() != 0)
+        QSKIP("only root can leave a folder of another user");
+    const QString left = m_out + ".vellumio-Ab12Cd";
+    QVERIFY(QDir().mkpath(left + "/inner"));
+    QFile page(left + "/r1-1.png");
+    QVERIFY(page.open(QIODevice::WriteOnly) && page.write("half a page") > 0);
+    page.close();
+    if (othersUser)
+        QCOMPARE(::chown(QFile::encodeName(left).constData(), 65534, 65534), 0);
+    const int fd = ::open(QFile::encodeName(left).constData(), O_RDONLY | O_DIRECTORY);
+    QVERIFY(fd >= 0);
+    if (held)
+        QCOMPARE(::flock(fd, LOCK_EX), 0);
+    const timespec age[2]
+        = {{::time(nullptr) - ageHours * 3600, 0}, {::time(nullptr) - ageHours * 3600, 0}};
+    QCOMPARE(::futimens(fd, age), 0);
+
+    writeSettings({{"format", "png"}});
+    const Result result = renderJob(m_job);
+    ::close(fd);
+    QVERIFY2(result.ok(), qPrintable(result.message));
+    QCOMPARE(QFileInfo::exists(left), !removed);
 }
 
 QTEST_GUILESS_MAIN(tst_Render)

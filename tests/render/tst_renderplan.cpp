@@ -6,14 +6,10 @@
 #include "render/pdfsecurity.h"
 #include "render/renderplan.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QRegularExpression>
 #include <QTest>
 
 using namespace Render;
-
-Q_DECLARE_METATYPE(Render::PdfPermissions)
 
 class tst_RenderPlan : public QObject
 {
@@ -26,10 +22,6 @@ private slots:
     void fileNameOf();
     void passwordProblem_data();
     void passwordProblem();
-    void permissions_data();
-    void permissions();
-    void infoUpdate_data();
-    void infoUpdate();
     void everyPlan_data();
     void everyPlan();
 };
@@ -113,98 +105,13 @@ void tst_RenderPlan::passwordProblem()
     QFETCH(QString, password);
     QFETCH(bool, accepted);
     QCOMPARE(PdfSecurity::passwordProblem(password).isEmpty(), accepted);
-    PdfOptions pdf;
+    PdfSettings pdf;
     pdf.protect = true;
     pdf.ownerPassword = password;
     Options options;
     options.format = Formats::Pdf;
     options.pdf = pdf;
     QCOMPARE(makePlan(options, {"/job.pdf", 1, 1}).refusal.isEmpty(), accepted);
-}
-
-void tst_RenderPlan::permissions_data()
-{
-    QTest::addColumn<PdfPermissions>("allowed");
-    QTest::addColumn<QVariantMap>("expected");
-
-    PdfPermissions none;
-    QTest::newRow("nothing allowed")
-        << none
-        << QVariantMap {{"print", "none"}, {"modifyOther", "n"}, {"extract", "n"},
-               {"annotate", "n"}, {"form", "n"}, {"assemble", "n"}};
-    PdfPermissions lowPrint;
-    lowPrint.print = true;
-    QTest::newRow("print at low resolution") << lowPrint << QVariantMap {{"print", "low"}};
-    PdfPermissions highPrint = lowPrint;
-    highPrint.highPrint = true;
-    QTest::newRow("print at high resolution") << highPrint << QVariantMap {{"print", "full"}};
-    PdfPermissions highAlone;
-    highAlone.highPrint = true;
-    QTest::newRow("high resolution without printing")
-        << highAlone << QVariantMap {{"print", "none"}};
-    PdfPermissions rest;
-    rest.edit = rest.copy = rest.editNotes = rest.fillAndSign = rest.assemble = true;
-    QTest::newRow("the rest allowed") << rest
-                                      << QVariantMap {{"modifyOther", "y"}, {"extract", "y"},
-                                             {"annotate", "y"}, {"form", "y"}, {"assemble", "y"}};
-}
-
-void tst_RenderPlan::permissions()
-{
-    QFETCH(PdfPermissions, allowed);
-    QFETCH(QVariantMap, expected);
-    PdfOptions pdf;
-    pdf.protect = true;
-    pdf.userPassword = "u\"\\\n";
-    pdf.permissions = allowed;
-    const QJsonObject encrypt
-        = QJsonDocument::fromJson(PdfSecurity::qpdfJob("in.pdf", "out.pdf", {}, pdf))
-              .object()
-              .value("encrypt")
-              .toObject();
-    QCOMPARE(encrypt.value("userPassword").toString(), pdf.userPassword);
-    const QJsonObject bits = encrypt.value("128bit").toObject();
-    QCOMPARE(bits.value("useAes").toString(), "y");
-    for (auto it = expected.cbegin(); it != expected.cend(); ++it)
-        QCOMPARE(bits.value(it.key()).toString(), it.value().toString());
-}
-
-void tst_RenderPlan::infoUpdate_data()
-{
-    QTest::addColumn<QByteArray>("trailer");
-    QTest::addColumn<QString>("infoObject");
-
-    QTest::newRow("replaces the file's information")
-        << QByteArray(R"({"qpdf":[{"jsonversion":2,"maxobjectid":21},)"
-                      R"({"trailer":{"value":{"/Info":"2 0 R","/Root":"1 0 R","/Size":22}}}]})")
-        << "obj:2 0 R";
-    QTest::newRow("adds information where there was none")
-        << QByteArray(R"({"qpdf":[{"jsonversion":2,"maxobjectid":23},)"
-                      R"({"trailer":{"value":{"/Root":"1 0 R","/Size":24}}}]})")
-        << "obj:24 0 R";
-    QTest::newRow("no trailer") << QByteArray("qpdf: damaged") << "";
-}
-
-void tst_RenderPlan::infoUpdate()
-{
-    QFETCH(QByteArray, trailer);
-    QFETCH(QString, infoObject);
-    PdfOptions pdf;
-    pdf.title = "Tï \"quoted\" Жук";
-    pdf.producer = "Vellumio";
-    QString error;
-    const QByteArray update
-        = PdfSecurity::infoUpdate(trailer, pdf, QDateTime::currentDateTime(), &error);
-    QCOMPARE(update.isEmpty(), infoObject.isEmpty());
-    if (infoObject.isEmpty())
-        return;
-    const QJsonObject objects
-        = QJsonDocument::fromJson(update).object().value("qpdf")[1].toObject();
-    const QJsonObject info = objects.value(infoObject)["value"].toObject();
-    QCOMPARE(info.value("/Title").toString(), "u:" + pdf.title);
-    QCOMPARE(info.value("/Producer").toString(), "u:Vellumio");
-    QCOMPARE(objects.value("trailer")["value"]["/Info"].toString(), infoObject.mid(4));
-    QCOMPARE(objects.value("trailer")["value"]["/Root"].toString(), "1 0 R");
 }
 
 void tst_RenderPlan::everyPlan_data()
@@ -238,7 +145,7 @@ void tst_RenderPlan::everyPlan()
     options.name = "Doc";
     options.multipageTiff = options.multipageSwf = options.multipagePdf = options.multipageHtm
         = options.multipageDjvu = multipage;
-    options.pdf = {"T", "A", "S", "K", "C", "P", true, secret, secret + "o", {}};
+    options.pdf = {"T", "A", "S", "K", "C", "P", secret, secret + "o", true, {}};
     options.swfPassword = secret;
     options.extractText = true;
 
@@ -251,29 +158,25 @@ void tst_RenderPlan::everyPlan()
             QList<int> rendered(pages + 1, 0);
             static const QRegularExpression first("^-dFirstPage=(\\d+)$"),
                 last("^-dLastPage=(\\d+)$");
-            for (const Stage &stage : plan.stages) {
-                for (const Task &task : stage.tasks) {
-                    for (const Step &step : task.steps) {
-                        const Command &command = step.command;
-                        QVERIFY2(!command.arguments.join(' ').contains(secret),
-                            qPrintable(command.program));
-                        QVERIFY(!QStringList({"sh", "bash", "env"}).contains(command.program));
-                        if (command.program != "gs")
-                            continue;
-                        for (const char *flag : {"-dSAFER", "-dBATCH", "-dNOPAUSE"})
-                            QVERIFY(command.arguments.contains(flag));
-                        int from = 1, to = pages;
-                        for (const QString &argument : command.arguments) {
-                            if (first.match(argument).hasMatch())
-                                from = first.match(argument).captured(1).toInt();
-                            if (last.match(argument).hasMatch())
-                                to = last.match(argument).captured(1).toInt();
-                        }
-                        if (command.arguments.last() == "/spool/job.pdf")
-                            for (int page = from; page <= to; ++page)
-                                ++rendered[page];
-                    }
+            for (const Step &step : plan.steps()) {
+                const Command &command = step.command;
+                QVERIFY2(
+                    !command.arguments.join(' ').contains(secret), qPrintable(command.program));
+                QVERIFY(!QStringList({"sh", "bash", "env"}).contains(command.program));
+                if (command.program != "gs")
+                    continue;
+                for (const char *flag : {"-dSAFER", "-dBATCH", "-dNOPAUSE"})
+                    QVERIFY(command.arguments.contains(flag));
+                int from = 1, to = pages;
+                for (const QString &argument : command.arguments) {
+                    if (first.match(argument).hasMatch())
+                        from = first.match(argument).captured(1).toInt();
+                    if (last.match(argument).hasMatch())
+                        to = last.match(argument).captured(1).toInt();
                 }
+                if (command.arguments.last() == "/spool/job.pdf")
+                    for (int page = from; page <= to; ++page)
+                        ++rendered[page];
             }
             if (rendered.mid(1).contains(1) || rendered.mid(1).contains(2))
                 QCOMPARE(rendered.mid(1), QList<int>(pages, 1));

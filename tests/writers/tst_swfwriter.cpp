@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SWF files as a player walks them: frames, page images, text layer, stops and the password crypt.
+#include "tests/writers/swfreader.h"
 #include "writers/md5crypt.h"
 #include "writers/swfwriter.h"
 
+#include <QBuffer>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QtEndian>
 
 namespace {
 
@@ -30,54 +31,6 @@ QByteArray ghostscriptJpeg(QSize pixels)
         {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=jpeg", "-r96",
             QString("-g%1x%2").arg(pixels.width()).arg(pixels.height()), "-sOutputFile=-", "-c",
             "0.3 setgray 10 10 40 20 rectfill showpage"});
-}
-
-// The size a RECT at `data` spans from the origin; `bytes` is what it takes.
-QSize rectSize(const QByteArray &data, int *bytes = nullptr)
-{
-    const auto bits = [&data](int first, int count) {
-        int value = 0;
-        for (int bit = first; bit < first + count; ++bit)
-            value = value << 1 | ((quint8(data.at(bit / 8)) >> (7 - bit % 8)) & 1);
-        return value;
-    };
-    const int size = bits(0, 5);
-    if (bytes)
-        *bytes = (5 + 4 * size + 7) / 8;
-    return QSize(bits(5 + size, size), bits(5 + 3 * size, size));
-}
-
-// An uncompressed SWF body's frame size and count, and its tags' codes and bodies in file order.
-struct SwfFile
-{
-    QSize stage;
-    int frameCount = -1;
-    QList<int> codes;
-    QHash<int, QList<QByteArray>> tags;
-};
-
-SwfFile readSwf(const QByteArray &file)
-{
-    SwfFile swf;
-    QByteArray sized(4, '\0');
-    qToBigEndian(qFromLittleEndian<quint32>(file.constData() + 4) - 8, sized.data());
-    const QByteArray body = qUncompress(sized + file.mid(8));
-    if (body.size() + 8 != qFromLittleEndian<quint32>(file.constData() + 4))
-        return swf;
-    int at = 0;
-    swf.stage = rectSize(body, &at);
-    swf.frameCount = qFromLittleEndian<quint16>(body.constData() + at + 2);
-    for (at += 4; at + 2 <= body.size() && (swf.codes.isEmpty() || swf.codes.last());) {
-        const quint16 header = qFromLittleEndian<quint16>(body.constData() + at);
-        const bool longSize = (header & 0x3f) == 0x3f;
-        const int size
-            = longSize ? qFromLittleEndian<qint32>(body.constData() + at + 2) : header & 0x3f;
-        at += longSize ? 6 : 2;
-        swf.codes += header >> 6;
-        swf.tags[header >> 6] += body.mid(at, size);
-        at += size;
-    }
-    return swf;
 }
 
 } // namespace
@@ -153,7 +106,7 @@ private slots:
         const QByteArray file = Swf::document(pages, options, &error);
         QVERIFY2(file.startsWith("CWS") && file.at(3) >= 8, qPrintable(error));
 
-        SwfFile swf = readSwf(file);
+        SwfFile swf = SwfFile::read(file);
         QCOMPARE(swf.frameCount, pages.size());
         QVERIFY(swf.codes.size() > 2);
         QCOMPARE(swf.codes.first(), 69); // FileAttributes, which version 8 requires first
@@ -170,7 +123,8 @@ private slots:
         for (qsizetype i = 0; i < pages.size(); ++i) {
             QCOMPARE(swf.tags[21].at(i).mid(2), pages.at(i).jpeg);
             const QSize twips = pixels.at(i) * 1440 / dpi;
-            QCOMPARE(rectSize(swf.tags[2].at(i).mid(2)), twips); // the shape that shows the bitmap
+            QCOMPARE(SwfFile::rectSize(swf.tags[2].at(i).mid(2)),
+                twips); // the shape that shows the bitmap
             stage = stage.expandedTo(twips);
         }
         QCOMPARE(swf.stage, stage);
@@ -199,6 +153,31 @@ private slots:
         QString reason;
         QCOMPARE(Swf::document({{m_jpeg, "a"}, {image, "b"}}, {}, &reason), QByteArray());
         QCOMPARE(reason, error);
+    }
+
+    // The frame count and stage come before the pages: a movie whose pages do not match them is
+    // refused, not written with frames a player would find missing or cut.
+    void writerRefuses_data()
+    {
+        QTest::addColumn<int>("announced");
+        QTest::addColumn<QSize>("largest");
+        QTest::addColumn<QString>("error");
+        QTest::newRow("a page fewer than announced")
+            << 3 << QSize(120, 80) << "2 of 3 pages were added";
+        QTest::newRow("a page larger than announced")
+            << 2 << QSize(120, 79) << "page 1: larger than announced";
+    }
+    void writerRefuses()
+    {
+        QFETCH(int, announced);
+        QFETCH(QSize, largest);
+        QFETCH(QString, error);
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        Swf::Writer writer(&buffer, {}, announced, largest);
+        const bool added = writer.addPage({m_jpeg, "a"}) && writer.addPage({m_jpeg, "b"});
+        QVERIFY(!(added && writer.finish()));
+        QCOMPARE(writer.errorString(), error);
     }
 
     void readByFfprobe()
