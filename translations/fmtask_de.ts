@@ -218,7 +218,7 @@ Bitte wählen Sie einen anderen.</translation>
     </message>
     <message>
         <source>Run application</source>
-        <translation>Anwendung starten</translation>
+        <translation>Programm starten</translation>
     </message>
     <message>
         <source>&lt;!DOCTYPE HTML PUBLIC &quot;-//W3C//DTD HTML 4.0//EN&quot; &quot;http://www.w3.org/TR/REC-html40/strict.dtd&quot;&gt;

@@ -218,7 +218,7 @@ Veuillez en choisir un autre.</translation>
     </message>
     <message>
         <source>Run application</source>
-        <translation>Lancer l&apos;application</translation>
+        <translation>Lancer un logiciel</translation>
     </message>
     <message>
         <source>&lt;!DOCTYPE HTML PUBLIC &quot;-//W3C//DTD HTML 4.0//EN&quot; &quot;http://www.w3.org/TR/REC-html40/strict.dtd&quot;&gt;

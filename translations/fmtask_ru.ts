@@ -218,7 +218,7 @@ Please, choose another one.</source>
     </message>
     <message>
         <source>Run application</source>
-        <translation>Запуск программы</translation>
+        <translation>Открыть файл</translation>
     </message>
     <message>
         <source>&lt;!DOCTYPE HTML PUBLIC &quot;-//W3C//DTD HTML 4.0//EN&quot; &quot;http://www.w3.org/TR/REC-html40/strict.dtd&quot;&gt;

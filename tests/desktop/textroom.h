@@ -43,14 +43,17 @@ inline QString describe(const QWidget *widget, const QString &text, const QRect 
         .arg(room.height());
 }
 
+// How far a text keeps from the control that follows it.
+constexpr int neighbourGap = 4;
+
 // The visible neighbour stacked above the widget, if any, that the glyphs (in the widget's
-// coordinates) run under.
+// coordinates) run under or come closer to than the gap.
 inline const QWidget *coveringSibling(const QWidget *widget, const QRect &glyphs)
 {
     const QWidget *parent = widget->parentWidget();
     if (!parent)
         return nullptr;
-    const QRect inParent = glyphs.translated(widget->pos());
+    const QRect inParent = glyphs.translated(widget->pos()).adjusted(0, 0, neighbourGap, 0);
     const QObjectList &stack = parent->children();
     for (qsizetype above = stack.indexOf(widget) + 1; above < stack.size(); ++above) {
         const auto *sibling = qobject_cast<const QWidget *>(stack.at(above));

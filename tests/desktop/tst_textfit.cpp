@@ -1,16 +1,44 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Every text of the three forms shows whole: in English and every shipped language, in the
-// platform's style and the program's own, at the scale factor of the run.
+// Every text of the three windows shows whole, in the language of the run's locale (fontconfig
+// picks the desktop font for it, as for the program), in the platform's style and the program's
+// own, at the scale factor of the run. CTest runs it once per language and scale factor.
 #include "app/runprotocol.h"
 #include "tests/desktop/forms.h"
 #include "tests/desktop/textroom.h"
 
+#include <QFontDatabase>
 #include <QFontInfo>
+#include <QProcessEnvironment>
 #include <QScreen>
 #include <QTabWidget>
 #include <QTest>
 
 Q_DECLARE_METATYPE(Forms::Form)
+
+namespace {
+
+// The writing system a language's texts need a font for.
+QFontDatabase::WritingSystem writingSystemOf(const QString &language)
+{
+    if (language == QLatin1String("zh_CN"))
+        return QFontDatabase::SimplifiedChinese;
+    if (language == QLatin1String("ja"))
+        return QFontDatabase::Japanese;
+    if (language == QLatin1String("ru"))
+        return QFontDatabase::Cyrillic;
+    return QFontDatabase::Latin;
+}
+
+// Lists each problem on its own line, since a failure message is cut at its end.
+bool none(QStringList problems)
+{
+    problems.removeDuplicates();
+    for (const QString &problem : std::as_const(problems))
+        qWarning("%s", qPrintable(problem));
+    return problems.isEmpty();
+}
+
+} // namespace
 
 class tst_TextFit : public QObject
 {
@@ -19,10 +47,16 @@ class tst_TextFit : public QObject
 private slots:
     void initTestCase()
     {
-        // The font a Linux desktop gives programs without a theme of their own; fontconfig makes
-        // it DejaVu Sans on Debian, one of the widest.
+        // The font a Linux desktop gives programs without a theme of their own: fontconfig makes
+        // it DejaVu Sans on Debian, one of the widest, or the font of the locale's script.
         QApplication::setFont(QFont(QStringLiteral("Sans Serif"), 9));
-        qInfo("font %s, %g dpi, scale factor %g",
+        language = RunProtocol::userLanguage(
+            QProcessEnvironment::systemEnvironment(), RunProtocol::shippedLanguages());
+        if (QFontDatabase::families(writingSystemOf(language)).isEmpty())
+            QSKIP("no font for the language's script (Debian: fonts-noto-cjk)");
+        QVERIFY(language.isEmpty() || RunProtocol::installTranslation(language));
+        qInfo("language %s, font %s, %g dpi, scale factor %g",
+            language.isEmpty() ? "en" : qPrintable(language),
             qPrintable(QFontInfo(QApplication::font()).family()),
             QGuiApplication::primaryScreen()->logicalDotsPerInch(),
             QGuiApplication::primaryScreen()->devicePixelRatio());
@@ -31,11 +65,12 @@ private slots:
     void everyTextWhole_data() { rows(); }
     void everyTextWhole()
     {
-        const std::unique_ptr<Opened> shown = show();
-        QVERIFY(shown);
-        QStringList problems = TextRoom::problemsBelow(shown->form->window());
+        QFETCH(QString, style);
+        QFETCH(Forms::Form, form);
+        const std::unique_ptr<Forms::Shown> shown = Forms::show(form, style);
+        QStringList problems = TextRoom::problemsBelow(shown->window());
         // The shared options of the format pages are measured where the form puts them.
-        for (QTabWidget *tabs : shown->form->window()->findChildren<QTabWidget *>()) {
+        for (QTabWidget *tabs : shown->window()->findChildren<QTabWidget *>()) {
             for (int index = 0; index < tabs->count(); ++index)
                 problems << TextRoom::problemsBelow(tabs->widget(index));
         }
@@ -48,71 +83,36 @@ private slots:
     void everyTabWhole_data() { rows(); }
     void everyTabWhole()
     {
+        QFETCH(QString, style);
         QFETCH(Forms::Form, form);
-        const std::unique_ptr<Opened> shown = show();
-        QVERIFY(shown);
-        if (form == Forms::Main)
-            QEXPECT_FAIL("", "the styles' tab padding is too wide for twelve tabs", Continue);
+        const std::unique_ptr<Forms::Shown> shown = Forms::show(form, style);
         QStringList problems;
-        for (QTabWidget *tabs : shown->form->window()->findChildren<QTabWidget *>()) {
+        for (QTabWidget *tabs : shown->window()->findChildren<QTabWidget *>()) {
             for (int index = 0; index < tabs->count(); ++index) {
                 tabs->setCurrentIndex(index);
                 TextRoom::checkTabBar(&problems, tabs->tabBar());
             }
         }
-        QVERIFY2(none(problems), "texts not shown whole, listed above");
+        if (form == Forms::Main)
+            QEXPECT_FAIL("", "the styles' tab padding is too wide for twelve tabs", Continue);
+        QVERIFY2(none(problems), "tabs not shown whole, listed above");
     }
 
 private:
-    // Lists each problem on its own line, since a failure message is cut at its end.
-    static bool none(QStringList problems)
+    // Each style, for each window.
+    void rows() const
     {
-        problems.removeDuplicates();
-        for (const QString &problem : std::as_const(problems))
-            qWarning("%s", qPrintable(problem));
-        return problems.isEmpty();
-    }
-
-    // Every shipped language, English first, in each style, for each form.
-    static void rows()
-    {
-        QTest::addColumn<QString>("language"); // empty: English
         QTest::addColumn<QString>("style");
         QTest::addColumn<Forms::Form>("form");
-        const QStringList languages = QStringList {QString()} + RunProtocol::shippedLanguages();
-        for (const QString &language : languages) {
-            for (const QString &style : Forms::styles()) {
-                for (const Forms::Form form : {Forms::Main, Forms::Pdf, Forms::Banner})
-                    QTest::addRow("%s, %s, %s", language.isEmpty() ? "en" : qPrintable(language),
-                        qPrintable(style), Forms::formName(form))
-                        << language << style << form;
-            }
+        for (const QString &style : Forms::styles()) {
+            for (const Forms::Form form : {Forms::Main, Forms::Pdf, Forms::Banner})
+                QTest::addRow("%s, %s, %s", language.isEmpty() ? "en" : qPrintable(language),
+                    qPrintable(style), Forms::formName(form))
+                    << style << form;
         }
     }
 
-    // The window of the current row, opened in its style with its language installed.
-    struct Opened
-    {
-        QTranslator translator;
-        std::unique_ptr<Forms::Shown> form;
-        ~Opened() { QCoreApplication::removeTranslator(&translator); }
-    };
-    static std::unique_ptr<Opened> show()
-    {
-        QFETCH(QString, language);
-        QFETCH(QString, style);
-        QFETCH(Forms::Form, form);
-        auto opened = std::make_unique<Opened>();
-        if (!language.isEmpty()) {
-            if (!Forms::loadTranslation(&opened->translator, language)) {
-                QTest::qFail(qPrintable("no translation " + language), __FILE__, __LINE__);
-                return nullptr;
-            }
-            QCoreApplication::installTranslator(&opened->translator);
-        }
-        opened->form = Forms::show(form, style);
-        return opened;
-    }
+    QString language; // empty: English
 };
 
 QTEST_MAIN(tst_TextFit)
