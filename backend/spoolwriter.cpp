@@ -107,22 +107,28 @@ Outcome prepareRoot(const std::string &root)
 }
 
 // Creates the user's folder when it is missing and opens it; refuses anything but a folder of the
-// user's own with mode 0700.
+// user's own with mode 0700. A new folder is made whole under a temporary name and renamed into
+// place, so a backend running beside this one never sees it half given to its user.
 Outcome openUserFolder(const std::string &root, uid_t uid, gid_t gid, int &folder)
 {
     const std::string path = userFolder(root, uid);
-    if (::mkdir(path.c_str(), 0700) == 0) {
-        if (::lchown(path.c_str(), uid, gid) != 0 || ::chmod(path.c_str(), 0700) != 0) {
+    struct stat info;
+    if (::lstat(path.c_str(), &info) != 0 && errno == ENOENT) {
+        const std::string fresh
+            = root + "/" + incomingPrefix + std::to_string(uid) + '-' + std::to_string(::getpid());
+        if (::mkdir(fresh.c_str(), 0700) != 0)
+            return systemFailure("cannot create " + path);
+        if (::lchown(fresh.c_str(), uid, gid) != 0 || ::chmod(fresh.c_str(), 0700) != 0) {
             const Outcome outcome = systemFailure("cannot give " + path + " to its user");
-            ::rmdir(path.c_str());
+            ::rmdir(fresh.c_str());
             return outcome;
         }
-        touchStamp(root, std::to_string(uid) + '\n', O_TRUNC);
-    } else if (errno != EEXIST) {
-        return systemFailure("cannot create " + path);
+        if (::renameat2(AT_FDCWD, fresh.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0)
+            touchStamp(root, std::to_string(uid) + '\n', O_TRUNC);
+        else
+            ::rmdir(fresh.c_str());
     }
     folder = ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-    struct stat info;
     if (folder < 0 || ::fstat(folder, &info) != 0 || info.st_uid != uid
         || (info.st_mode & 07777) != 0700)
         return failure(BackendStatus::Cancel,

@@ -23,9 +23,20 @@ namespace PrintHarness {
 
 constexpr char userPrefix[] = "vlmt";
 
+// useradd and userdel refuse while another run holds the lock on /etc/passwd: try again.
+inline bool retried(const QString &program, const QStringList &arguments)
+{
+    for (int tries = 0; tries < 50; ++tries) {
+        if (QProcess::execute(program, arguments) == 0)
+            return true;
+        QThread::msleep(100);
+    }
+    return false;
+}
+
 inline void removeUser(const QString &name)
 {
-    QProcess::execute(QStringLiteral("userdel"), {name});
+    retried(QStringLiteral("userdel"), {name});
 }
 
 // Users left by runs that died before removing them: named after a process that is gone.
@@ -50,7 +61,7 @@ struct ThrowawayUser
         : name(QLatin1String(userPrefix) + QString::number(::getpid()) + QLatin1Char(letter))
         , home(folder + QLatin1Char('/') + name)
     {
-        QProcess::execute(QStringLiteral("useradd"),
+        retried(QStringLiteral("useradd"),
             {QStringLiteral("-M"), QStringLiteral("-d"), home, QStringLiteral("-s"),
                 QStringLiteral("/bin/sh"), name});
         if (const passwd *entry = ::getpwnam(name.toLocal8Bit().constData())) {
