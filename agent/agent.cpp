@@ -151,11 +151,11 @@ void Agent::takeJob(const QString &name)
     m_jobName = name;
     m_job = m_spool.readJob(name, &damage);
     if (!m_job) {
-        m_title = name;
+        m_fileName = name;
         return failJob(damage);
     }
-    m_title = QString::fromStdString(m_job->info.title);
-    m_fileName = JobRules::safeFileName(m_title);
+    // Messages name the job by this too: a title is whatever the printing program chose.
+    m_fileName = JobRules::safeFileName(QString::fromStdString(m_job->info.title));
     if (!JobRules::dialogWanted(SettingsKey(SettingsScope::User).value(Settings::ChDialog)))
         return render(Render::Existing::KeepAll, m_fileName);
     showDialog();
@@ -191,7 +191,7 @@ void Agent::dialogFinished(bool started, bool exitedNormally)
     case JobRules::AfterDialog::Cancelled:
         return finishJob();
     case JobRules::AfterDialog::EndedAbnormally:
-        m_notifier.tell(QStringLiteral("Vellumio did not print ") + quoted(m_title),
+        m_notifier.tell(QStringLiteral("Vellumio did not print ") + quoted(m_fileName),
             QStringLiteral("The print dialog ended unexpectedly, so the job was cancelled."));
         return finishJob();
     case JobRules::AfterDialog::NotStarted:
@@ -216,10 +216,10 @@ void Agent::openResult(const QString &file) const
 {
     const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
     if (opener.isEmpty() || !QProcess::startDetached(opener, {file}))
-        m_notifier.tell(QStringLiteral("Vellumio printed ") + quoted(m_title),
-            QStringLiteral("The result cannot be opened: xdg-open (package xdg-utils) is "
-                           "missing. It is ")
-                + file);
+        m_notifier.tell(QStringLiteral("Vellumio printed ") + quoted(m_fileName),
+            QStringLiteral("The result is ") + file
+                + QStringLiteral(
+                    "; it cannot be opened, as xdg-open (package xdg-utils) is missing."));
 }
 
 void Agent::finishJob()
@@ -241,7 +241,7 @@ void Agent::failJob(const QString &why)
     const QString name = m_jobName;
     m_job.reset();
     const bool kept = m_spool.moveAside(name);
-    m_notifier.tell(QStringLiteral("Vellumio could not print ") + quoted(m_title),
+    m_notifier.tell(QStringLiteral("Vellumio could not print ") + quoted(m_fileName),
         why
             + (kept ? QStringLiteral(
                    ". The job is kept: \"vellumio-agent --retry\" prints it again.")

@@ -73,8 +73,7 @@ private:
     QProcess m_dialog;
     std::optional<SpoolFolder::Job> m_job;
     QString m_jobName; // the spool's name of the current job, also when it could not be read
-    QString m_title; // the job's title as the user knows it
-    QString m_fileName; // the title made safe as a file name
+    QString m_fileName; // the job's title made safe as a file name
     KeyStamp m_markedKey;
 };
 
