@@ -29,8 +29,7 @@ constexpr int swfDpi = 96;
 constexpr int htmlDpi = 150;
 // pdf2djvu takes nothing coarser.
 constexpr int djvuMinimumDpi = 72;
-// Pages per Ghostscript run of a paged raster job: bounds the work folder's size and lets the
-// runs share the cores.
+// Pages per Ghostscript run of a paged raster job at most: bounds the work folder's size.
 constexpr int pagesPerChunk = 25;
 // qpdf's exit status for a file written with warnings.
 constexpr int qpdfWarnings = 3;
@@ -62,12 +61,12 @@ struct Chunk
     int last;
 };
 
+// The runs of a paged raster job: a multiple of the cores, so that they share them evenly, and no
+// more, since every run reads the job anew. The pages they render are converted on any core.
 QList<Chunk> chunksOf(int pages, int parallel)
 {
-    int count = (pages + pagesPerChunk - 1) / pagesPerChunk;
-    if (parallel > 1)
-        count = qMax(count, parallel * 2);
-    count = qBound(1, count, pages);
+    const int needed = (pages + pagesPerChunk - 1) / pagesPerChunk;
+    const int count = qBound(1, (needed + parallel - 1) / parallel * parallel, pages);
     QList<Chunk> chunks;
     int first = 1;
     for (int i = 0; i < count; ++i) {

@@ -35,13 +35,11 @@ namespace {
 // The word every page of a test job shows, with its page number.
 const QString pageWord = "Zebra";
 
-QString run(const QString &program, const QStringList &arguments, QByteArray *errors = nullptr)
+QString run(const QString &program, const QStringList &arguments)
 {
     QProcess process;
     process.start(program, arguments);
     process.waitForFinished(120000);
-    if (errors)
-        *errors = process.readAllStandardError();
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
@@ -439,9 +437,9 @@ void tst_Render::formats_data()
     QTest::newRow("DjVu greyscale, a file per page")
         << QVariantMap {{"format", "djvu"}, {"image_color", "24g"}, {"multipage_djvu", "false"}}
         << named(two, "djvu") << djvu << 1 << QVariantMap {{"text", "yes"}};
-    QTest::newRow("text extracted, a name with folders and dashes")
+    QTest::newRow("text extracted, a name with folders, dashes and a tab")
         << QVariantMap {{"format", "jpg"}, {"extract_text", "true"},
-               {"newfilename", "-x/../--draft 'one'"}}
+               {"newfilename", "-x/../--dr\taft 'one'"}}
         << QStringList {"--draft 'one'.jpg", "--draft 'one'2.jpg", "--draft 'one'.txt"} << jpeg << 1
         << QVariantMap {{"text", "no"}};
     QTest::newRow("text asked in capitals is not extracted")
@@ -519,8 +517,11 @@ void tst_Render::failures_data()
         << QStringList() << Failure::Refused << "user password";
     QTest::newRow("PDF password too long") << good
                                            << QVariantMap {{"format", "pdf"}, {"pdf_protect", true},
-                                                  {"pdf_owner_pw", QString(40, 'x')}}
+                                                  {"pdf_owner_pw", QString(33, 'x')}}
                                            << QStringList() << Failure::Refused << "longer than 32";
+    QTest::newRow("job name that names no file")
+        << good << QVariantMap {{"format", "png"}, {"newfilename", "x/.."}} << QStringList()
+        << Failure::Refused << "no file name";
     QTest::newRow("DjVu without pdf2djvu")
         << good << QVariantMap {{"format", "djvu"}} << QStringList {"gs", "qpdf", "pdftotext"}
         << Failure::MissingTool << "pdf2djvu";

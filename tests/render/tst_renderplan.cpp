@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The pure side of rendering: file names, passwords the encryption can hold, and what every plan
-// promises whatever the options (sandboxed Ghostscript, no secret on a command line, every page
-// once).
+// The pure side of rendering: the numbered file names, and what every plan promises whatever the
+// options (sandboxed Ghostscript, no secret on a command line, every page once).
 #include "render/filenames.h"
-#include "render/pdfsecurity.h"
 #include "render/renderplan.h"
 
 #include <QRegularExpression>
@@ -18,10 +16,6 @@ class tst_RenderPlan : public QObject
 private slots:
     void stems_data();
     void stems();
-    void fileNameOf_data();
-    void fileNameOf();
-    void passwordProblem_data();
-    void passwordProblem();
     void everyPlan_data();
     void everyPlan();
 };
@@ -55,63 +49,6 @@ void tst_RenderPlan::stems()
     QFETCH(QString, customNumber);
     QFETCH(QStringList, expected);
     QCOMPARE(FileNames::stems("Doc", count, {prefixFirstPage, customNumber}), expected);
-}
-
-void tst_RenderPlan::fileNameOf_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("plain") << "Report"
-                           << "Report";
-    QTest::newRow("folders dropped") << "../../etc/passwd"
-                                     << "passwd";
-    QTest::newRow("leading dashes kept") << "--help"
-                                         << "--help";
-    QTest::newRow("control characters dropped") << "a\nb\tc"
-                                                << "abc";
-    QTest::newRow("dot dot") << "x/.."
-                             << "";
-    QTest::newRow("trailing slash") << "folder/"
-                                    << "";
-}
-
-void tst_RenderPlan::fileNameOf()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, expected);
-    QCOMPARE(FileNames::fileNameOf(name), expected);
-}
-
-void tst_RenderPlan::passwordProblem_data()
-{
-    QTest::addColumn<QString>("password");
-    QTest::addColumn<bool>("accepted");
-
-    QTest::newRow("quotes, backslash, newline") << "a\"b'c\\d\ne" << true;
-    QTest::newRow("Latin-1") << "Müßig" << true;
-    QTest::newRow("euro and ligature") << "€ﬁ" << true;
-    QTest::newRow("32 characters") << QString(32, 'x') << true;
-    QTest::newRow("33 characters") << QString(33, 'x') << false;
-    QTest::newRow("Cyrillic") << "пароль" << false;
-    QTest::newRow("CJK") << "密码" << false;
-    QTest::newRow("emoji") << "pass🙂" << false;
-    QTest::newRow("control character") << QString("a\x01") << false;
-    QTest::newRow("soft hyphen") << "a\u00ADb" << false;
-}
-
-void tst_RenderPlan::passwordProblem()
-{
-    QFETCH(QString, password);
-    QFETCH(bool, accepted);
-    QCOMPARE(PdfSecurity::passwordProblem(password).isEmpty(), accepted);
-    PdfSettings pdf;
-    pdf.protect = true;
-    pdf.ownerPassword = password;
-    Options options;
-    options.format = Formats::Pdf;
-    options.pdf = pdf;
-    QCOMPARE(makePlan(options, {"/job.pdf", 1, 1}).refusal.isEmpty(), accepted);
 }
 
 void tst_RenderPlan::everyPlan_data()

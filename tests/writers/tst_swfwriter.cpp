@@ -4,7 +4,6 @@
 #include "writers/md5crypt.h"
 #include "writers/swfwriter.h"
 
-#include <QBuffer>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -153,31 +152,6 @@ private slots:
         QString reason;
         QCOMPARE(Swf::document({{m_jpeg, "a"}, {image, "b"}}, {}, &reason), QByteArray());
         QCOMPARE(reason, error);
-    }
-
-    // The frame count and stage come before the pages: a movie whose pages do not match them is
-    // refused, not written with frames a player would find missing or cut.
-    void writerRefuses_data()
-    {
-        QTest::addColumn<int>("announced");
-        QTest::addColumn<QSize>("largest");
-        QTest::addColumn<QString>("error");
-        QTest::newRow("a page fewer than announced")
-            << 3 << QSize(120, 80) << "2 of 3 pages were added";
-        QTest::newRow("a page larger than announced")
-            << 2 << QSize(120, 79) << "page 1: larger than announced";
-    }
-    void writerRefuses()
-    {
-        QFETCH(int, announced);
-        QFETCH(QSize, largest);
-        QFETCH(QString, error);
-        QBuffer buffer;
-        buffer.open(QIODevice::WriteOnly);
-        Swf::Writer writer(&buffer, {}, announced, largest);
-        const bool added = writer.addPage({m_jpeg, "a"}) && writer.addPage({m_jpeg, "b"});
-        QVERIFY(!(added && writer.finish()));
-        QCOMPARE(writer.errorString(), error);
     }
 
     void readByFfprobe()
