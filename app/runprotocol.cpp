@@ -8,7 +8,6 @@
 #include "settings/jobsettings.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QProcessEnvironment>
@@ -61,10 +60,8 @@ void centreOnScreen(QWidget *window)
 
 namespace {
 
-// Where the translations lie among the program's resources, and how they are named.
-const QString translationFolder = QStringLiteral(":/i18n/");
-const QString translationPrefix = QStringLiteral("fmtask_");
-const QString translationSuffix = QStringLiteral(".qm");
+// Where the translations lie among the program's resources.
+const QString translationPrefix = QStringLiteral(":/i18n/fmtask_");
 
 // A locale without translations: C, POSIX, or C with a character set ("C.UTF-8").
 bool isPlainLocale(const QString &locale)
@@ -92,15 +89,8 @@ QString shippedLanguageOf(QString locale, const QStringList &shipped)
 
 QStringList shippedLanguages()
 {
-    QStringList languages;
-    const QStringList files
-        = QDir(translationFolder)
-              .entryList({translationPrefix + QLatin1Char('*') + translationSuffix}, QDir::Files,
-                  QDir::Name);
-    for (const QString &file : files)
-        languages << file.mid(translationPrefix.size(),
-            file.size() - translationPrefix.size() - translationSuffix.size());
-    return languages;
+    // Named by the build, which compiles exactly these translations in.
+    return QStringLiteral(FMTASK_LANGUAGES).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
 QString userLanguage(const QProcessEnvironment &environment, const QStringList &shipped)
@@ -132,7 +122,7 @@ bool installTranslation(const QString &language)
     QCoreApplication *application = QCoreApplication::instance();
     // Both stay with the application for the whole run.
     auto *own = new QTranslator(application);
-    if (!own->load(translationFolder + translationPrefix + language + translationSuffix)) {
+    if (!own->load(translationPrefix + language + QStringLiteral(".qm"))) {
         delete own;
         return false;
     }
@@ -176,7 +166,12 @@ int run(int argc, char **argv)
     // Driver contract: the one argument is the proposed file name and nothing else. Qt is given
     // only the program's path, so a name such as "-reverse" or "-stylesheet=x.qss" stays a name;
     // the platform, when the session calls for one, is the program's own choice.
-    const QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment environment; // what the start-up rules read, and only that
+    for (const char *name : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG", "QT_QPA_PLATFORM",
+             "WAYLAND_DISPLAY", "DISPLAY"}) {
+        if (qEnvironmentVariableIsSet(name))
+            environment.insert(QLatin1String(name), qEnvironmentVariable(name));
+    }
     QByteArray platform = preferredPlatform(environment);
     char platformOption[] = "-platform";
     char *qtArgv[] = {argv[0], platformOption, platform.data(), nullptr};

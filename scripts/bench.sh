@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Builds the start-up benchmark in Release and runs it: fmtask against a bare main window,
-# launched alternately, then loading and saving in process. Prints a Markdown table.
+# Builds the start-up benchmark in Release and runs it: fmtask against a window with one label
+# (and a bare one), launched in turn in a German locale so that both load a translation, then
+# loading and saving in process. Prints a Markdown table.
 #   scripts/bench.sh              offscreen platform (no display needed)
 #   scripts/bench.sh --xcb        on a virtual X server (xvfb-run), as a desktop would show it
-# Further arguments go to the benchmark (--pairs N, --rounds N). BUILD_DIR sets the build folder.
+# Further arguments go to the benchmark (--pairs N, --rounds N, --language en for no
+# translation). BUILD_DIR sets the build folder.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
