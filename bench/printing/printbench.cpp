@@ -198,6 +198,19 @@ int main(int argc, char *argv[])
         backendRuns.push_back(milliseconds(clock) - before);
     }
 
+    // For scale on this machine now: the program alone, and a bare Qt window, started the same way.
+    std::vector<double> aloneStarts, bareStarts;
+    for (int round = 0; round < rounds; ++round) {
+        for (auto [program, times] :
+            {std::pair {FMTASK_PROBE, &aloneStarts}, std::pair {BARE_PROBE, &bareStarts}}) {
+            QProcess probe;
+            const double before = milliseconds(clock);
+            startAs(probe, &user, QString::fromUtf8(program), {QStringLiteral("Round")}, session);
+            waitFor([&] { return probe.state() == QProcess::NotRunning; }, 30000);
+            times->push_back(milliseconds(clock) - before);
+        }
+    }
+
     // Idle: no job for ten seconds.
     waitFor([] { return false; }, 2000);
     const Usage before = usageOf(agent.processId());
@@ -222,6 +235,9 @@ int main(int argc, char *argv[])
     std::printf("| fmtask start (started to dialog exposed) | %.1f ms |\n", median(dialogStarts));
     std::printf("| **Project's own share** (target < 100 ms) | **%.1f ms** (%s) |\n", own,
         own < 100 ? "met" : "missed");
+    std::printf("| For scale: fmtask started alone / a bare Qt window started alone | %.1f ms / "
+                "%.1f ms |\n",
+        median(aloneStarts), median(bareStarts));
     std::printf("| Agent idle CPU over 10 s | %.2f %% |\n", idleCpu);
     std::printf("| Agent resident memory idle / peak (target < 20 MiB) | %.1f MiB / %.1f MiB |\n",
         double(after.residentKiB) / 1024, double(after.peakKiB) / 1024);
