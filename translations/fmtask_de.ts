@@ -202,7 +202,7 @@ Bitte wählen Sie einen anderen.</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation>Eigener Wert</translation>
+        <translation>Eigene Nummer</translation>
     </message>
     <message>
         <source>1</source>
@@ -429,7 +429,7 @@ Bitte wählen Sie einen anderen.</translation>
     </message>
     <message>
         <source>Modify annoations or form fields</source>
-        <translation>Kommentare, Formularfelder ändern</translation>
+        <translation>Kommentare und Formulare ändern</translation>
     </message>
     <message>
         <source>Extract text and graphics</source>
@@ -437,11 +437,11 @@ Bitte wählen Sie einen anderen.</translation>
     </message>
     <message>
         <source>Fill in existing form or signature fields</source>
-        <translation>Formular-, Signaturfelder ausfüllen</translation>
+        <translation>Formular- und Signaturfelder ausfüllen</translation>
     </message>
     <message>
         <source>Advanced extract text and graphics</source>
-        <translation>Erweitert Text, Grafik extrahieren</translation>
+        <translation>Erweiterte Text- und Grafikextraktion</translation>
     </message>
     <message>
         <source>Assemble the document</source>

@@ -284,7 +284,7 @@ p, li { white-space: pre-wrap; }
     </message>
     <message>
         <source>Show this dialog next time</source>
-        <translation>Mostrar este cuadro la próxima vez</translation>
+        <translation>Mostrar este cuadro de diálogo la próxima vez</translation>
     </message>
     <message>
         <source>Save File As...</source>
@@ -441,7 +441,7 @@ Elija otra, por favor.</translation>
     </message>
     <message>
         <source>Advanced extract text and graphics</source>
-        <translation>Extracción avanzada de texto</translation>
+        <translation>Extraer texto y gráficos (avanzado)</translation>
     </message>
     <message>
         <source>Assemble the document</source>

@@ -429,7 +429,7 @@ Veuillez en choisir un autre.</translation>
     </message>
     <message>
         <source>Modify annoations or form fields</source>
-        <translation>Modifier annotations et formulaires</translation>
+        <translation>Annotations et champs de formulaire</translation>
     </message>
     <message>
         <source>Extract text and graphics</source>
@@ -437,11 +437,11 @@ Veuillez en choisir un autre.</translation>
     </message>
     <message>
         <source>Fill in existing form or signature fields</source>
-        <translation>Remplir formulaires et signatures</translation>
+        <translation>Remplissage de formulaires, signature</translation>
     </message>
     <message>
         <source>Advanced extract text and graphics</source>
-        <translation>Extraction avancée texte et images</translation>
+        <translation>Extraction avancée (texte, images)</translation>
     </message>
     <message>
         <source>Assemble the document</source>

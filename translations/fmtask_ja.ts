@@ -308,7 +308,7 @@ Please choose correct directory</source>
     </message>
     <message>
         <source>Do you want to replace it?</source>
-        <translation>置き換えますか?</translation>
+        <translation>置き換えますか？</translation>
     </message>
     <message>
         <source>You have no permission to write in this directory.

@@ -429,7 +429,7 @@ Please, choose another one.</source>
     </message>
     <message>
         <source>Modify annoations or form fields</source>
-        <translation>Изменение примечаний, форм</translation>
+        <translation>Изменение примечаний и форм</translation>
     </message>
     <message>
         <source>Extract text and graphics</source>
