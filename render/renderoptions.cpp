@@ -80,8 +80,8 @@ Options readOptions(const SettingsKey &options, const SettingsKey &user)
         o.swfPassword = textOf(options, Settings::entry(Settings::ProtectSwf));
     readBound(options, o);
 
-    // Driver contract: only the exact text "true" asks for the text file.
-    o.extractText = options.text(Settings::ExtractText) == QLatin1String("true");
+    // An exact flag in the table: only the text "true" asks for the text file.
+    o.extractText = options.flag(Settings::ExtractText);
     o.prefixFirstPage = options.flag(Settings::PrefixFirstPage);
     o.customNumber = options.text(Settings::CustomNumber);
 

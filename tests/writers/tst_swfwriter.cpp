@@ -122,8 +122,8 @@ private slots:
         for (qsizetype i = 0; i < pages.size(); ++i) {
             QCOMPARE(swf.tags[21].at(i).mid(2), pages.at(i).jpeg);
             const QSize twips = pixels.at(i) * 1440 / dpi;
-            QCOMPARE(SwfFile::rectSize(swf.tags[2].at(i).mid(2)),
-                twips); // the shape that shows the bitmap
+            // The shape that shows the bitmap spans the page.
+            QCOMPARE(SwfFile::rectSize(swf.tags[2].at(i).mid(2)), twips);
             stage = stage.expandedTo(twips);
         }
         QCOMPARE(swf.stage, stage);
