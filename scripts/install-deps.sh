@@ -9,7 +9,7 @@ set -euo pipefail
 packages=(cmake g++ make qt6-base-dev qt6-tools-dev qt6-l10n-tools fontconfig fonts-dejavu-core
     ghostscript poppler-utils qpdf libtiff-tools netpbm libopenjp2-tools pdf2djvu djvulibre-bin
     zlib1g-dev openssl
-    cups cups-client cups-bsd xvfb xdotool x11-utils dbus-daemon file "$@")
+    cups cups-client cups-bsd xvfb xdotool x11-utils dbus-daemon file xdg-utils "$@")
 missing=()
 for package in "${packages[@]}"; do
     if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed'; then
