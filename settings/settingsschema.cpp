@@ -14,45 +14,25 @@ namespace {
 // Readable names for the binding column.
 constexpr Binding shownIn(const char *widget)
 {
-    Binding binding;
-    binding.widget = widget;
-    return binding;
+    return Binding(widget);
 }
-constexpr Binding job(QString JobSettings::*text)
+template<class Member>
+constexpr Binding job(Member JobSettings::*member)
 {
-    Binding binding;
-    binding.jobText = text;
-    return binding;
+    return Binding(member);
 }
-constexpr Binding job(bool JobSettings::*flag)
+template<class Member>
+constexpr Binding pdf(Member PdfSettings::*member)
 {
-    Binding binding;
-    binding.jobFlag = flag;
-    return binding;
-}
-constexpr Binding pdf(QString PdfSettings::*text)
-{
-    Binding binding;
-    binding.pdfText = text;
-    return binding;
-}
-constexpr Binding pdf(bool PdfSettings::*flag)
-{
-    Binding binding;
-    binding.pdfFlag = flag;
-    return binding;
+    return Binding(member);
 }
 constexpr Binding permission(bool PdfPermissions::*flag)
 {
-    Binding binding;
-    binding.permission = flag;
-    return binding;
+    return Binding(flag);
 }
 constexpr Binding extensionOf(Formats::Index format)
 {
-    Binding binding;
-    binding.extensionOf = format;
-    return binding;
+    return Binding(format);
 }
 constexpr Binding none = {};
 

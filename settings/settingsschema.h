@@ -124,6 +124,29 @@ struct Binding
     bool PdfPermissions::*permission = nullptr;
     int extensionOf = -1; // a format index: its stored file extension
 
+    constexpr Binding() = default;
+    constexpr Binding(const char *w)
+        : widget(w)
+    { }
+    constexpr Binding(QString JobSettings::*text)
+        : jobText(text)
+    { }
+    constexpr Binding(bool JobSettings::*flag)
+        : jobFlag(flag)
+    { }
+    constexpr Binding(QString PdfSettings::*text)
+        : pdfText(text)
+    { }
+    constexpr Binding(bool PdfSettings::*flag)
+        : pdfFlag(flag)
+    { }
+    constexpr Binding(bool PdfPermissions::*flag)
+        : permission(flag)
+    { }
+    constexpr explicit Binding(Formats::Index format)
+        : extensionOf(format)
+    { }
+
     bool isWidget() const { return widget != nullptr; }
 };
 
