@@ -23,13 +23,10 @@ void startHelper(QProcess &process, const JobFixture &job, const QStringList &ar
     environment.insert("XDG_CONFIG_DIRS", job.path("machine"));
     environment.insert("FMTASK_OUTPUT_FOLDER", job.dir.path());
     process.setProcessEnvironment(environment);
-    if (!unprivileged) {
+    if (!unprivileged)
         process.start(RELIABILITY_HELPER, arguments);
-        return;
-    }
-    const QString helper = Unprivileged::reachable(RELIABILITY_HELPER, job.dir.path());
-    if (Unprivileged::handOver(job.dir.path()))
-        Unprivileged::start(process, helper, arguments);
+    else if (Unprivileged::handOver(job.dir.path()))
+        Unprivileged::start(process, RELIABILITY_HELPER, arguments, job.dir.path());
 }
 
 // The program's own run on the job's keys, Print pressed once the dialog shows: its output when it
@@ -145,7 +142,8 @@ private slots:
     // file written here is readable by all, the key's file (or the one a link leads to) must end up
     // for its owner only; a link to a device keeps the device.
     // Each row's name says what stands at the key; rows with bytes write them into a file there.
-    // Root writes read-only keys regardless, so those rows run the program as nobody.
+    // Root reads and writes regardless, so the rows of read-only and unreadable keys run the
+    // program as nobody.
     void programPrintsAndExits_data()
     {
         QTest::addColumn<QByteArray>("user");
@@ -170,6 +168,7 @@ private slots:
             owner);
         row("read-only file", "format=png\n", 0, true);
         row("read-only folder", "format=png\n", 0, true);
+        row("unreadable file", "q_jpg=4\n", 0, true);
         row("folder", {});
         row("dangling link", {});
         row("named pipe", {});
@@ -197,6 +196,7 @@ private slots:
             job.writeFile(QFile::decodeName(target), user);
         QVERIFY(key != "read-only file" || ::chmod(file, 0400) == 0);
         QVERIFY(key != "read-only folder" || ::chmod(folder, 0500) == 0);
+        QVERIFY(key != "unreadable file" || ::chmod(file, 0200) == 0);
         const auto restore = qScopeGuard([&folder] { ::chmod(folder, 0700); });
         QVERIFY(key != "folder" || QDir().mkdir(file));
         QVERIFY(key != "dangling link" || ::symlink("missing.conf", file) == 0);

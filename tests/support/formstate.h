@@ -20,41 +20,39 @@ using FormState = QMap<QString, QString>;
 
 namespace FormStates {
 
-// The state of one widget; nothing for widgets without a state of their own.
+// The property that holds a widget's state; null for widgets without a state of their own.
+inline const char *stateProperty(const QWidget *widget)
+{
+    if (qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QGroupBox *>(widget))
+        return widget->property("checkable").toBool() ? "checked" : nullptr;
+    if (qobject_cast<const QSpinBox *>(widget))
+        return "value";
+    if (qobject_cast<const QLineEdit *>(widget))
+        return "text";
+    if (qobject_cast<const QComboBox *>(widget))
+        return "currentText";
+    return qobject_cast<const QTabWidget *>(widget) ? "currentIndex" : nullptr;
+}
+
 inline std::optional<QString> of(const QWidget *widget)
 {
-    const auto checked = [](bool on) { return QString::fromLatin1(on ? "checked" : "unchecked"); };
-    if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
-        return button->isCheckable() ? checked(button->isChecked()) : std::optional<QString>();
-    if (const auto *group = qobject_cast<const QGroupBox *>(widget))
-        return group->isCheckable() ? checked(group->isChecked()) : std::optional<QString>();
-    if (const auto *spinBox = qobject_cast<const QSpinBox *>(widget))
-        return QString::number(spinBox->value());
-    if (const auto *edit = qobject_cast<const QLineEdit *>(widget))
-        return edit->text();
-    if (const auto *combo = qobject_cast<const QComboBox *>(widget))
-        return combo->currentText();
-    if (const auto *tabs = qobject_cast<const QTabWidget *>(widget))
-        return QString::number(tabs->currentIndex());
-    return std::nullopt;
+    const char *name = stateProperty(widget);
+    if (!name)
+        return std::nullopt;
+    const QVariant value = widget->property(name);
+    if (value.typeId() == QMetaType::Bool)
+        return QString::fromLatin1(value.toBool() ? "checked" : "unchecked");
+    return value.toString();
 }
 
 // Sets a widget as a user would leave it in that state.
 inline void set(QWidget *widget, const QString &state)
 {
-    const bool on = state == QLatin1String("checked");
-    if (auto *button = qobject_cast<QAbstractButton *>(widget))
-        button->setChecked(on);
-    else if (auto *group = qobject_cast<QGroupBox *>(widget))
-        group->setChecked(on);
-    else if (auto *spinBox = qobject_cast<QSpinBox *>(widget))
-        spinBox->setValue(state.toInt());
-    else if (auto *edit = qobject_cast<QLineEdit *>(widget))
-        edit->setText(state);
-    else if (auto *combo = qobject_cast<QComboBox *>(widget))
-        combo->setCurrentText(state);
-    else if (auto *tabs = qobject_cast<QTabWidget *>(widget))
-        tabs->setCurrentIndex(state.toInt());
+    if (const char *name = stateProperty(widget))
+        widget->setProperty(name,
+            widget->property(name).typeId() == QMetaType::Bool
+                ? QVariant(state == QLatin1String("checked"))
+                : QVariant(state));
 }
 
 // Every named widget with a state below `root`; Qt's own inner widgets are left out.

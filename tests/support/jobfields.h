@@ -46,13 +46,10 @@ inline const Field fields[] = {
 inline FormState all()
 {
     FormState state;
-    for (const Field &field : fields) {
-        if (field.text)
-            state.insert(QLatin1String(field.name), *field.text(jobSettings()));
-        else
-            state.insert(
-                QLatin1String(field.name), QVariant(*field.flag(jobSettings())).toString());
-    }
+    for (const Field &field : fields)
+        state.insert(QLatin1String(field.name),
+            field.text ? *field.text(jobSettings())
+                       : QVariant(*field.flag(jobSettings())).toString());
     return state;
 }
 
@@ -60,13 +57,11 @@ inline FormState all()
 inline bool set(const QString &name, const QString &value)
 {
     for (const Field &field : fields) {
-        if (name != QLatin1String(field.name))
-            continue;
-        if (field.text)
-            *field.text(jobSettings()) = value;
-        else
-            *field.flag(jobSettings()) = value == QLatin1String("true");
-        return true;
+        if (name == QLatin1String(field.name)) {
+            field.text ? void(*field.text(jobSettings()) = value)
+                       : void(*field.flag(jobSettings()) = value == QLatin1String("true"));
+            return true;
+        }
     }
     return false;
 }

@@ -26,9 +26,9 @@ inline bool switching()
 inline QString user(bool switched = true)
 {
     const passwd *self = ::getpwuid(::geteuid());
-    return switched && switching() ? QStringLiteral("nobody")
-        : self                     ? QString::fromLocal8Bit(self->pw_name)
-                                   : QString::number(::geteuid());
+    if (switched && switching())
+        return QStringLiteral("nobody");
+    return self ? QString::fromLocal8Bit(self->pw_name) : QString::number(::geteuid());
 }
 
 // Why processes cannot switch here; empty when they can.
@@ -36,47 +36,36 @@ inline QString obstacle()
 {
     if (switching() && QStandardPaths::findExecutable(QStringLiteral("setpriv")).isEmpty())
         return QStringLiteral("setpriv is missing");
-    if (switching() && !::getpwnam("nobody"))
-        return QStringLiteral("there is no user nobody");
-    return QString();
+    return switching() && !::getpwnam("nobody") ? QStringLiteral("there is no user nobody")
+                                                : QString();
 }
 
 // Hands a folder and everything in it to nobody, so a switched process may use it, and lets
 // everyone pass through it (its parents are the test's own temporary folders).
 inline bool handOver(const QString &folder)
 {
-    if (!switching())
-        return true;
     const passwd *nobody = ::getpwnam("nobody");
-    bool handed = nobody && ::chown(QFile::encodeName(folder), nobody->pw_uid, nobody->pw_gid) == 0;
+    bool handed = !switching()
+        || (nobody && ::chown(QFile::encodeName(folder), nobody->pw_uid, nobody->pw_gid) == 0);
     QDirIterator it(folder, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System,
         QDirIterator::Subdirectories);
-    while (handed && it.hasNext())
+    while (switching() && handed && it.hasNext())
         handed = ::lchown(QFile::encodeName(it.next()), nobody->pw_uid, nobody->pw_gid) == 0;
     return handed && QFile::setPermissions(folder, QFile::permissions(folder) | QFile::ExeOther);
 }
 
-// A copy of a program in a folder nobody may use, so it runs wherever the build tree lies; the
-// program itself where processes do not switch.
-inline QString reachable(const QString &program, const QString &folder)
+// Starts a program as nobody when switching, from a copy in a folder nobody may use so that it
+// runs wherever the build tree lies; else the program itself as the test's own user.
+inline void start(
+    QProcess &process, const QString &program, const QStringList &arguments, const QString &folder)
 {
     if (!switching())
-        return program;
+        return process.start(program, arguments);
     const QString copy = folder + QStringLiteral("/") + QFileInfo(program).fileName();
     QFile::copy(program, copy);
-    return copy;
-}
-
-// Starts a program as nobody when switching, else as the test's own user.
-inline void start(QProcess &process, const QString &program, const QStringList &arguments)
-{
-    if (!switching()) {
-        process.start(program, arguments);
-        return;
-    }
     process.start(QStringLiteral("setpriv"),
         QStringList {QStringLiteral("--reuid=nobody"), QStringLiteral("--regid=nogroup"),
-            QStringLiteral("--clear-groups"), program}
+            QStringLiteral("--clear-groups"), copy}
             + arguments);
 }
 
