@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The advanced PDF dialog against the shared job values: each value in its own widget, the
-// password check, Cancel, echo, tab order and language. Print's saving of them is the settings
-// suite's.
+// The advanced PDF dialog against the shared job values: the password check, Cancel and echo.
+// Each value in its own widget is the settings suite's, a language installed at run time the
+// main window suite's, the tab order the accessibility suite's.
 #include "pdf/pdfprotect.h"
 #include "tests/support/findwidget.h"
 #include "tests/support/jobfields.h"
-#include "tests/support/markingtranslator.h"
 #include "tests/support/scriptedprompts.h"
 
 #include <QTest>
@@ -27,53 +26,6 @@ class tst_PdfProtect : public QObject
 
 private slots:
     void init() { jobSettings() = JobSettings(); }
-
-    // Each job value alone: set, a new dialog shows it in exactly its own widgets; shown there
-    // on a new job, OK stores exactly that value.
-    void eachValueInItsWidget_data()
-    {
-        QTest::addColumn<QString>("value"); // of the job value named by the row
-        QTest::addColumn<Shown>("widgets"); // all that differs in a new dialog
-        // clang-format off
-        QTest::newRow("pdf.title")         << "Title"    << Shown{{"le_pdf_title", "Title"}};
-        QTest::newRow("pdf.author")        << "Author"   << Shown{{"le_pdf_author", "Author"}};
-        QTest::newRow("pdf.subject")       << "Subject"  << Shown{{"le_pdf_subject", "Subject"}};
-        QTest::newRow("pdf.keywords")      << "Keywords" << Shown{{"le_pdf_keywords", "Keywords"}};
-        QTest::newRow("pdf.creator")       << "Creator"  << Shown{{"le_pdf_creator", "Creator"}};
-        QTest::newRow("pdf.producer")      << "Producer" << Shown{{"le_pdf_producer", "Producer"}};
-        QTest::newRow("pdf.userPassword")  << "pw"       << Shown{{"le_pdf_user_pw", "pw"}, {"le_pdf_user_pw_2", "pw"}};
-        QTest::newRow("pdf.ownerPassword") << "ow"       << Shown{{"le_pdf_owner_pw", "ow"}, {"le_pdf_owner_pw_2", "ow"}};
-        QTest::newRow("pdf.protect")                 << "true" << Shown{{"cb_security", "Password Encryption"}};
-        QTest::newRow("pdf.permissions.print")       << "true" << Shown{{"ch_pdf_print", "checked"}};
-        QTest::newRow("pdf.permissions.edit")        << "true" << Shown{{"ch_pdf_edit", "checked"}};
-        QTest::newRow("pdf.permissions.copy")        << "true" << Shown{{"ch_pdf_copy", "checked"}};
-        QTest::newRow("pdf.permissions.editNotes")   << "true" << Shown{{"ch_pdf_editnotes", "checked"}};
-        QTest::newRow("pdf.permissions.fillAndSign") << "true" << Shown{{"ch_pdf_fillandsign", "checked"}};
-        QTest::newRow("pdf.permissions.accessible")  << "true" << Shown{{"ch_pdf_accessible", "checked"}};
-        QTest::newRow("pdf.permissions.assemble")    << "true" << Shown{{"ch_pdf_assemble", "checked"}};
-        QTest::newRow("pdf.permissions.highPrint")   << "true" << Shown{{"ch_pdf_highprint", "checked"}};
-        // clang-format on
-    }
-    void eachValueInItsWidget()
-    {
-        QFETCH(QString, value);
-        QFETCH(Shown, widgets);
-        const QString field = QTest::currentDataTag();
-        const Shown jobByDefault = JobFields::all();
-        const Shown dialogByDefault = shownByNewDialog();
-        QVERIFY(JobFields::set(field, value));
-        QCOMPARE(FormStates::text(FormStates::changes(dialogByDefault, shownByNewDialog())),
-            FormStates::text(widgets));
-
-        jobSettings() = JobSettings();
-        pdfprotect dialog;
-        for (auto it = widgets.begin(); it != widgets.end(); ++it)
-            FormStates::set(findWidget(&dialog, it.key()), it.value());
-        findWidget<QPushButton>(&dialog, "pb_ok")->click();
-        QCOMPARE(dialog.result(), int(QDialog::Accepted));
-        QCOMPARE(FormStates::text(FormStates::changes(jobByDefault, JobFields::all())),
-            FormStates::text({{field, value}}));
-    }
 
     // Both pairs are compared, user pair first, also with encryption off; only a match stores.
     // Driver contract: the protection flag is written as soon as the combo box changes, so Cancel
@@ -157,48 +109,6 @@ private slots:
                 QCOMPARE(findWidget<QLineEdit>(&dialog, name)->echoMode(), mode);
             findWidget<QCheckBox>(&dialog, "ch_showchars_pw")->click();
         }
-    }
-
-    // Tab goes from the title to the subject, and from a password straight on, past its repeat.
-    void tabOrder_data()
-    {
-        QTest::addColumn<QString>("next");
-        QTest::newRow("pb_ok") << "pb_cancel";
-        QTest::newRow("le_pdf_title") << "le_pdf_subject";
-        QTest::newRow("le_pdf_subject") << "le_pdf_author";
-        QTest::newRow("le_pdf_user_pw") << "le_pdf_owner_pw";
-        QTest::newRow("le_pdf_owner_pw") << "ch_showchars_pw";
-        QTest::newRow("ch_pdf_print") << "ch_pdf_highprint";
-    }
-    void tabOrder()
-    {
-        QFETCH(QString, next);
-        pdfprotect dialog;
-        QCOMPARE(
-            findWidget(&dialog, QTest::currentDataTag())->nextInFocusChain()->objectName(), next);
-    }
-
-    // A language installed at run time translates the texts and leaves the choice alone.
-    void language()
-    {
-        jobSettings().pdf.protect = true;
-        pdfprotect dialog;
-        MarkingTranslator translator("pdfprotect"); // the application posts the change
-        QVERIFY(QCoreApplication::installTranslator(&translator));
-        QTRY_COMPARE(dialog.windowTitle(), "~ Advanced PDF Settings ");
-        const auto *security = findWidget<QComboBox>(&dialog, "cb_security");
-        QCOMPARE(security->itemText(1), "~Password Encryption");
-        QCOMPARE(security->currentIndex(), 1);
-        QVERIFY(jobSettings().pdf.protect);
-        QCoreApplication::removeTranslator(&translator);
-        QTRY_COMPARE(dialog.windowTitle(), " Advanced PDF Settings ");
-    }
-
-private:
-    static Shown shownByNewDialog()
-    {
-        const pdfprotect dialog;
-        return FormStates::all(&dialog);
     }
 };
 

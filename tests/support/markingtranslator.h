@@ -2,25 +2,26 @@
 #ifndef FMTASK_TESTS_MARKINGTRANSLATOR_H
 #define FMTASK_TESTS_MARKINGTRANSLATOR_H
 
-#include <QByteArray>
+#include <QByteArrayList>
 #include <QTranslator>
 
-// Marks every text of one translation context with a leading "~", as a translation installed at
-// run time would change it.
+// Marks every text of the given translation contexts with a leading "~", as a translation
+// installed at run time would change it.
 struct MarkingTranslator : public QTranslator
 {
-    explicit MarkingTranslator(const char *markedContext)
-        : context(markedContext)
+    explicit MarkingTranslator(const QByteArrayList &markedContexts)
+        : contexts(markedContexts)
     { }
 
     bool isEmpty() const override { return false; }
 
-    QString translate(const char *textContext, const char *source, const char *, int) const override
+    QString translate(const char *context, const char *source, const char *, int) const override
     {
-        return context == textContext ? QLatin1Char('~') + QString::fromUtf8(source) : QString();
+        return contexts.contains(context) ? QLatin1Char('~') + QString::fromUtf8(source)
+                                          : QString();
     }
 
-    QByteArray context;
+    QByteArrayList contexts;
 };
 
 #endif // FMTASK_TESTS_MARKINGTRANSLATOR_H

@@ -25,6 +25,7 @@ struct ScriptedPrompts : public Prompts
     struct SaveAs
     {
         QWidget *parent;
+        QPoint parentPosition;
         QString caption, path, filters, preselectedFilter;
     };
 
@@ -42,16 +43,18 @@ struct ScriptedPrompts : public Prompts
     QString saveFileName(QWidget *parent, const QString &caption, const QString &path,
         const QString &filters, QString *selectedFilter) override
     {
-        saveAsCalls.append({parent, caption, path, filters, *selectedFilter});
+        saveAsCalls.append(
+            {parent, parent ? parent->pos() : QPoint(), caption, path, filters, *selectedFilter});
         *selectedFilter = chosenFilter.isNull() ? *selectedFilter : chosenFilter;
-        return chosenFile;
+        return chosenFiles.isEmpty() ? chosenFile : chosenFiles.takeFirst();
     }
 
     // Message box answers, first question first; an unscripted question gets NoButton.
     QQueue<QMessageBox::StandardButton> answers;
     // What Save As returns: the file (empty = cancelled) and the filter left selected (null =
-    // the preselected one).
+    // the preselected one); while there are any, the next of the chosen files instead.
     QString chosenFile, chosenFilter;
+    QStringList chosenFiles;
     // The window whose topmost state is recorded with every question.
     QPointer<QWidget> watched;
 
