@@ -14,42 +14,22 @@ class tst_FormatCatalogue : public QObject
     Q_OBJECT
 
 private slots:
-    // Each stored token names the format of its tab, with its extension value and filter; a
-    // token in other letters or an extension names none.
+    // Each stored token names the format of its tab; a token in other letters or an extension
+    // names none. The filters are the Save As suites', the extension values the settings suite's.
     void formats_data()
     {
         QTest::addColumn<int>("index"); // -1: no format
-        QTest::addColumn<QString>("extensionValue");
-        QTest::addColumn<QString>("filter"); // with the default extension
-        // clang-format off
-        QTest::newRow("bmp")   << 0  << "ext_bmp"   << "BMP Format (*.bmp)";
-        QTest::newRow("png")   << 1  << "ext_png"   << "PNG Format (*.png)";
-        QTest::newRow("jpg")   << 2  << "ext_jpg"   << "JPEG Format (*.jpg)";
-        QTest::newRow("jp2")   << 3  << "ext_jp2"   << "JPEG2000 Format (*.jp2)";
-        QTest::newRow("tif")   << 4  << "ext_tif"   << "TIFF Format (*.tif)";
-        QTest::newRow("gif")   << 5  << "ext_gif"   << "GIF Format (*.gif)";
-        QTest::newRow("swf")   << 6  << "ext_swf"   << "SWF Format (*.swf)";
-        QTest::newRow("pdf")   << 7  << "ext_pdf"   << "PDF Format (*.pdf)";
-        QTest::newRow("rtf")   << 8  << "ext_rtf"   << "RTF Format (*.rtf)";
-        QTest::newRow("msxml") << 9  << "ext_msxml" << "MS Excel Format (*.xls)";
-        QTest::newRow("htm")   << 10 << "ext_htm"   << "HTML Format (*.html)";
-        QTest::newRow("djvu")  << 11 << "ext_djvu"  << "DjVu Format (*.djvu)";
-        QTest::newRow("PDF")   << -1 << ""          << "";
-        QTest::newRow("xls")   << -1 << ""          << "";
-        // clang-format on
+        const char *const tokens[] = {
+            "bmp", "png", "jpg", "jp2", "tif", "gif", "swf", "pdf", "rtf", "msxml", "htm", "djvu"};
+        for (int index = 0; index < int(std::size(tokens)); ++index)
+            QTest::newRow(tokens[index]) << index;
+        QTest::newRow("PDF") << -1;
+        QTest::newRow("xls") << -1;
     }
     void formats()
     {
         QFETCH(int, index);
-        QFETCH(QString, extensionValue);
-        QFETCH(QString, filter);
-        const Formats::Format *format = Formats::byToken(QTest::currentDataTag());
-        QCOMPARE(format, Formats::byIndex(index));
-        if (!format)
-            return;
-        QCOMPARE(QString(format->token), QString(QTest::currentDataTag()));
-        QCOMPARE(QString(format->extensionKey), extensionValue);
-        QCOMPARE(Formats::filterText(*format, QLatin1String(format->defaultExtension)), filter);
+        QCOMPARE(Formats::byToken(QTest::currentDataTag()), Formats::byIndex(index));
     }
 
     // Driver contract: the first occurrence of the program's name is replaced, wherever it stands;
