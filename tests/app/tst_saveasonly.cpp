@@ -211,17 +211,14 @@ private:
     static QStringList expectedWrites(
         const QString &name, const QString &folder, const QString &format, bool allUsers)
     {
-        QStringList user;
-        if (name.isNull())
-            user << "U isabort=true";
-        else
-            user << "U isabort=false"
-                 << "U newfilename=" + name << "U Path=" + folder << "U format=" + format;
-        QStringList machine = user;
-        machine.replaceInStrings(QRegularExpression("^U "), "M ");
-        if (!allUsers)
-            return user;
-        return name.isNull() ? machine + user : user + machine;
+        const QStringList values = name.isNull()
+            ? QStringList {"isabort=true"}
+            : QStringList {
+                "isabort=false", "newfilename=" + name, "Path=" + folder, "format=" + format};
+        QStringList user, machine;
+        for (const QString &value : values)
+            user << "U " + value, machine << "M " + value;
+        return !allUsers ? user : name.isNull() ? machine + user : user + machine;
     }
 
     std::unique_ptr<JobFixture> job;
