@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The documents a plan writes in-process: SWF, RTF, SpreadsheetML, image HTML and PDF updates.
+// The documents a plan writes in-process: SWF, RTF, SpreadsheetML, image HTML, PDF updates and
+// copies.
 #include "render/inprocesswrites.h"
 
 #include "render/pdfsecurity.h"
@@ -8,6 +9,11 @@
 
 #include <QDateTime>
 #include <QFile>
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace Render {
 
@@ -154,6 +160,71 @@ QString writeSwf(const Write &write, const QDir &work, const std::atomic<bool> *
     return out.flush() ? QString() : out.errorString();
 }
 
+bool writeAll(int fd, const char *data, ssize_t size)
+{
+    while (size > 0) {
+        const ssize_t written = ::write(fd, data, size_t(size));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        data += written;
+        size -= written;
+    }
+    return true;
+}
+
+// Copies a file as it is, in the kernel where it can (a shared extent on file systems that have
+// them), in bounded steps so that a stop is seen. The copy is a new file, made as the tools make
+// theirs.
+QString copyFile(const Write &write, const QDir &work, const std::atomic<bool> *stop)
+{
+    const auto error = [] { return QString::fromLocal8Bit(std::strerror(errno)); };
+    const int in = ::open(
+        QFile::encodeName(work.filePath(write.inputs.value(0))).constData(), O_RDONLY | O_CLOEXEC);
+    if (in < 0)
+        return error();
+    const int out = ::open(QFile::encodeName(work.filePath(write.output)).constData(),
+        O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+    if (out < 0) {
+        const QString why = error();
+        ::close(in);
+        return why;
+    }
+    constexpr size_t step = 16 << 20;
+    QString why;
+    QByteArray buffer; // for a plain read and write, where the kernel cannot copy
+    for (;;) {
+        if (stopping(stop)) {
+            why = stoppedWrite();
+            break;
+        }
+        ssize_t done;
+        if (buffer.isEmpty()) {
+            done = ::copy_file_range(in, nullptr, out, nullptr, step, 0);
+            if (done < 0
+                && (errno == EXDEV || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP)) {
+                buffer.resize(1 << 20);
+                continue;
+            }
+        } else {
+            done = ::read(in, buffer.data(), size_t(buffer.size()));
+            if (done > 0 && !writeAll(out, buffer.constData(), done))
+                done = -1;
+        }
+        if (done < 0 && errno == EINTR)
+            continue;
+        if (done < 0)
+            why = error();
+        if (done <= 0)
+            break;
+    }
+    ::close(in);
+    if (::close(out) != 0 && why.isEmpty())
+        why = error();
+    return why;
+}
+
 } // namespace
 
 QString perform(const Write &write, const QDir &work, const std::atomic<bool> *stop)
@@ -162,6 +233,8 @@ QString perform(const Write &write, const QDir &work, const std::atomic<bool> *s
         return writeHtmlPages(write, work, stop);
     if (write.kind == Write::Swf)
         return writeSwf(write, work, stop);
+    if (write.kind == Write::Copy)
+        return copyFile(write, work, stop);
 
     // The text or JSON file the document is made from.
     QString error;
@@ -179,6 +252,7 @@ QString perform(const Write &write, const QDir &work, const std::atomic<bool> *s
         break;
     case Write::HtmlPages:
     case Write::Swf:
+    case Write::Copy:
         break;
     case Write::PdfInfo:
         document = PdfSecurity::infoUpdate(input, write.pdf, QDateTime::currentDateTime(), &error);

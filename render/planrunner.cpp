@@ -63,18 +63,6 @@ void keepTail(QByteArray &errors, const QByteArray &more)
         errors.remove(0, errors.size() - keptErrorOutput);
 }
 
-// The last line of a tool's error output that says something.
-QString lastLine(const QByteArray &errors)
-{
-    const QList<QByteArray> lines = errors.split('\n');
-    for (auto it = lines.crbegin(); it != lines.crend(); ++it) {
-        const QString line = oneLine(QString::fromUtf8(*it));
-        if (!line.isEmpty())
-            return line;
-    }
-    return {};
-}
-
 // Empties the folder open as `fd`, folders inside it included (tools make none, but a folder that
 // was left behind is not trusted to hold files only).
 void clearFolder(int fd, int depth = 0)
@@ -502,6 +490,17 @@ bool allFree(const WorkFolder &work, const QStringList &names)
 }
 
 } // namespace
+
+QString lastLine(const QByteArray &errors)
+{
+    const QList<QByteArray> lines = errors.split('\n');
+    for (auto it = lines.crbegin(); it != lines.crend(); ++it) {
+        const QString line = oneLine(QString::fromUtf8(*it));
+        if (!line.isEmpty())
+            return line;
+    }
+    return {};
+}
 
 Result failure(Failure cause, const QString &message)
 {

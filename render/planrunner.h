@@ -22,6 +22,9 @@ Result runPlan(const Plan &plan, const QString &folder, Existing existing, int p
 // The first program of `programs` that is not installed, or an empty text.
 QString missingProgram(const QStringList &programs);
 
+// The last line of a tool's error output that says something.
+QString lastLine(const QByteArray &errors);
+
 // The one-line message of a failure.
 Result failure(Failure cause, const QString &message);
 

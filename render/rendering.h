@@ -13,15 +13,16 @@ namespace Render {
 // cannot be read or has no pages.
 int pageCount(const QString &pdf, Result *failure);
 
-// Renders `jobPdf` with `options`, at most `parallel` tools side by side: the checks of the
-// folder and the name, the page count, the plan, the tools it needs, then the run, which ends
-// early, leaving nothing behind, once `stop` is set.
-Result renderJob(const Options &options, const QString &jobPdf, Existing existing, int parallel,
-    const std::atomic<bool> *stop = nullptr);
+// Renders the job `job` (PDF or PostScript) with `options`, at most `parallel` tools side by side:
+// the checks of the folder and the name, PostScript made PDF by `converter` (or a converter of
+// its own when none is given), the page count, the plan, the tools it needs, then the run, which
+// ends early, leaving nothing behind, once `stop` is set.
+Result renderJob(const Options &options, const QString &job, Existing existing, int parallel,
+    const std::atomic<bool> *stop = nullptr, PostScriptConverter *converter = nullptr);
 
 // renderJob() of renderjob.h, ended early once `stop` is set.
-Result renderJob(
-    const QString &jobPdf, const QString &name, Existing existing, const std::atomic<bool> *stop);
+Result renderJob(const QString &jobPdf, const QString &name, Existing existing,
+    const std::atomic<bool> *stop, PostScriptConverter *converter = nullptr);
 
 // The tools side by side when nothing says otherwise: one per core.
 int defaultParallel();

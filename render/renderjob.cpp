@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Renders a printed job with the user's settings: checks, page count, plan and run.
+// Renders a printed job with the user's settings: checks, PostScript made PDF, page count, plan
+// and run.
 #include "render/renderjob.h"
 
 #include "render/filenames.h"
 #include "render/planrunner.h"
+#include "render/postscript.h"
 #include "render/rendering.h"
 #include "render/renderplan.h"
 
@@ -72,14 +74,9 @@ int pageCount(const QString &pdf, Result *result)
     return qMax(count, 0);
 }
 
-Result renderJob(const Options &given, const QString &jobPdf, Existing existing, int parallel,
-    const std::atomic<bool> *stop)
+Result renderJob(const Options &given, const QString &job, Existing existing, int parallel,
+    const std::atomic<bool> *stop, PostScriptConverter *converter)
 {
-    Result result;
-    const int pages = pageCount(jobPdf, &result);
-    if (pages == 0)
-        return result;
-
     Options options = given;
     const QFileInfo folder(options.folder);
     if (options.folder.isEmpty())
@@ -90,6 +87,21 @@ Result renderJob(const Options &given, const QString &jobPdf, Existing existing,
     options.name = FileNames::fileNameOf(options.name);
     if (options.name.isEmpty())
         return failure(Failure::Refused, QStringLiteral("The job has no file name."));
+
+    // PostScript is made PDF first, by the converter given (perhaps started ahead) or one of its
+    // own; the PDF is then rendered as any job's.
+    PostScriptConverter own;
+    QString jobPdf = job;
+    if (isPostScript(job)) {
+        const Result converted = (converter ? *converter : own).convert(job, &jobPdf, stop);
+        if (!converted.ok())
+            return converted;
+    }
+
+    Result result;
+    const int pages = pageCount(jobPdf, &result);
+    if (pages == 0)
+        return result;
 
     const Plan plan
         = makePlan(options, {QFileInfo(jobPdf).absoluteFilePath(), pages, qMax(1, parallel)});
@@ -108,18 +120,19 @@ Result renderJob(const Options &given, const QString &jobPdf, Existing existing,
     return runPlan(plan, folder.absoluteFilePath(), existing, parallel, stop);
 }
 
-Result renderJob(
-    const QString &jobPdf, const QString &name, Existing existing, const std::atomic<bool> *stop)
+Result renderJob(const QString &jobPdf, const QString &name, Existing existing,
+    const std::atomic<bool> *stop, PostScriptConverter *converter)
 {
     Options options = currentOptions();
     if (!name.isEmpty())
         options.name = name;
-    return renderJob(options, jobPdf, existing, defaultParallel(), stop);
+    return renderJob(options, jobPdf, existing, defaultParallel(), stop, converter);
 }
 
-Result renderJob(const QString &jobPdf, const QString &name, Existing existing)
+Result renderJob(
+    const QString &jobPdf, const QString &name, Existing existing, PostScriptConverter *converter)
 {
-    return renderJob(jobPdf, name, existing, nullptr);
+    return renderJob(jobPdf, name, existing, nullptr, converter);
 }
 
 } // namespace Render

@@ -37,12 +37,15 @@ enum class Existing {
              // ...
 };
 
+class PostScriptConverter;
+
 // Renders `jobPdf` with the values of the user's current settings, read exactly as the dialog
 // reads them (the all-users key when the machine key says so; the exchange values from the user
 // key). `name` is the file name without folder and extension; empty takes the stored
 // "newfilename". The folder is the stored "Path". On failure nothing is left in the folder.
-Result renderJob(
-    const QString &jobPdf, const QString &name = QString(), Existing existing = Existing::Replace);
+// A PostScript job is made PDF first, by `converter` when one is given (see postscript.h).
+Result renderJob(const QString &jobPdf, const QString &name = QString(),
+    Existing existing = Existing::Replace, PostScriptConverter *converter = nullptr);
 
 } // namespace Render
 

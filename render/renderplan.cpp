@@ -33,6 +33,8 @@ constexpr int djvuMinimumDpi = 72;
 constexpr int pagesPerChunk = 25;
 // qpdf's exit status for a file written with warnings.
 constexpr int qpdfWarnings = 3;
+// The image quality that asks for no change.
+constexpr int maximumQuality = 100;
 
 enum class Colour { Mono, Palette, Grey, Rgb };
 
@@ -149,6 +151,7 @@ private:
     void gif();
     void tiff();
     void pdf();
+    void keptPdf(bool split, bool finish);
     void protectPdfs(const QStringList &files, int stageIndex);
     void textDocument(Write::Kind kind);
     void html();
@@ -365,10 +368,48 @@ void Planner::tiff()
     addOutputs({merged});
 }
 
+// The job's own PDF is kept as it came when nothing asks for its pages to be drawn anew: colour
+// kept, images at the best quality (they stay as the job has them), the text layer kept. Then only
+// what is asked of the file is done: a copy; the split into pages, the document information and
+// the encryption by qpdf, which leaves the page contents alone.
+void Planner::keptPdf(bool split, bool finish)
+{
+    if (!split && !finish) {
+        Step copy;
+        copy.isWrite = true;
+        copy.write.kind = Write::Copy;
+        copy.write.inputs = {source()};
+        copy.write.output = str("document.pdf");
+        addTask(0, {copy});
+        addOutputs({copy.write.output});
+        return;
+    }
+    if (!split) {
+        protectPdfs({source()}, 0);
+        return;
+    }
+    // qpdf numbers the pages with as many digits as the last one has.
+    Step pages
+        = run(str("qpdf"), {str("--split-pages"), source(), str("page-%d.pdf")}, m_job.pages);
+    pages.command.warningStatus = qpdfWarnings;
+    addTask(0, {pages});
+    const int digits = int(number(m_job.pages).size());
+    QStringList files;
+    for (int page = 1; page <= m_job.pages; ++page)
+        files << QStringLiteral("page-%1.pdf").arg(page, digits, 10, QLatin1Char('0'));
+    if (finish)
+        protectPdfs(files, 1);
+    else
+        addOutputs(files);
+}
+
 void Planner::pdf()
 {
     const bool grey = greyOnly(m_colour);
     const bool split = !oneFile(o.multipagePdf);
+    const bool finish = hasInformation(o.pdf) || o.pdf.protect;
+    if (o.pdfText && !grey && o.qualityPdf >= maximumQuality)
+        return keptPdf(split, finish);
     const QString output = split ? str("page-%d.pdf") : str("document.pdf");
     if (o.pdfText) {
         QStringList options {str("-dAutoRotatePages=/None"), str("-dPassThroughJPEGImages=false")};
@@ -405,19 +446,20 @@ void Planner::pdf()
     } else {
         files << output;
     }
-    if (hasInformation(o.pdf) || o.pdf.protect)
+    if (finish)
         protectPdfs(files, 1);
     else
         addOutputs(files);
 }
 
 // Document information and encryption by qpdf, one task per file; the passwords reach qpdf only
-// through its owner-only job file.
+// through its owner-only job file. The job's own PDF is read where it is and left alone.
 void Planner::protectPdfs(const QStringList &files, int stageIndex)
 {
     QStringList finished;
     for (const QString &file : files) {
-        const QString base = file.chopped(4);
+        const bool workFile = file != source();
+        const QString base = workFile ? file.chopped(4) : str("document");
         QList<Step> steps;
         QString update;
         if (hasInformation(o.pdf)) {
@@ -442,7 +484,8 @@ void Planner::protectPdfs(const QStringList &files, int stageIndex)
         apply.command.warningStatus = qpdfWarnings;
         apply.command.secretFile = jobFile;
         apply.command.secret = PdfSecurity::qpdfJob(file, done, update, o.pdf);
-        apply.removeAfter = QStringList {file};
+        if (workFile)
+            apply.removeAfter << file;
         if (!update.isEmpty())
             apply.removeAfter << update;
         steps << apply;

@@ -37,9 +37,10 @@ struct Write
         SpreadsheetMl, // text file -> SpreadsheetML 2003, one worksheet per page
         HtmlPages, // page JPEGs -> one HTML page holding them
         PdfInfo, // qpdf's trailer JSON -> qpdf JSON update with the document information
+        Copy, // the one input, as it is
     };
     Kind kind = Rtf;
-    QStringList inputs; // the page images, or the one text or JSON file
+    QStringList inputs; // the page images, or the one text, JSON or copied file
     QString textFile; // SWF: the text of all pages, empty without a text layer
     QList<int> pages; // SWF: the page numbers (from 1) of `inputs`, to find their text
     QString output;

@@ -49,11 +49,12 @@ QByteArray contentOf(const QString &file)
     return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
 }
 
-// A letter-size job of `pages` pages, each with a line of text and a coloured noise image.
+// A letter-size job of `pages` pages, each with a line of text and a coloured noise image: a PDF,
+// or the PostScript program itself when `pdf` ends in ".ps".
 void makeJob(const QString &pdf, int pages, bool image = true)
 {
     QTemporaryDir dir;
-    const QString ps = dir.filePath("job.ps");
+    const QString ps = pdf.endsWith(".ps") ? pdf : dir.filePath("job.ps");
     QFile out(ps);
     QVERIFY(out.open(QIODevice::WriteOnly));
     out.write(
@@ -67,6 +68,8 @@ void makeJob(const QString &pdf, int pages, bool image = true)
                   "colorimage grestore\n");
     out.write("showpage } for\n");
     out.close();
+    if (ps == pdf)
+        return;
     run("gs",
         {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=pdfwrite", "-sOutputFile=" + pdf, ps});
     QVERIFY(QFileInfo(pdf).size() > 0);
@@ -389,7 +392,22 @@ void tst_Render::formats_data()
         << named(two, "pdf") << pdf << 1 << QVariantMap {{"text", "no"}, {"colour", "grey"}};
     QTest::newRow("PDF quality 10")
         << QVariantMap {{"format", "pdf"}, {"q_pdf", 10}} << QStringList {"Doc.pdf"} << pdf << 2
-        << QVariantMap {{"pdf quantisation", "80"}};
+        << QVariantMap {{"pdf quantisation", "80"}, {"kept", "no"}};
+    QTest::newRow("PDF kept as the job made it")
+        << QVariantMap {{"format", "pdf"}} << QStringList {"Doc.pdf"} << pdf << 2
+        << QVariantMap {{"kept", "yes"}, {"text", "yes"}};
+    QTest::newRow("PDF kept, a file per page")
+        << QVariantMap {{"format", "pdf"}, {"multipage_pdf", "false"}} << named(two, "pdf") << pdf
+        << 1 << QVariantMap {{"text", "yes"}, {"colour", "rgb"}};
+    QTest::newRow("PDF greyscale drawn anew with its text")
+        << QVariantMap {{"format", "pdf"}, {"image_color", "24g"}} << QStringList {"Doc.pdf"} << pdf
+        << 2 << QVariantMap {{"kept", "no"}, {"text", "yes"}, {"colour", "grey"}};
+    QTest::newRow("PostScript job as PDF")
+        << QVariantMap {{"format", "pdf"}, {"job", "ps"}} << QStringList {"Doc.pdf"} << pdf << 2
+        << QVariantMap {{"text", "yes"}, {"colour", "rgb"}};
+    QTest::newRow("PostScript job as PNG")
+        << QVariantMap {{"format", "png"}, {"job", "ps"}} << named(two, "png") << png << 1
+        << QVariantMap {{"colour", "rgb"}};
     QTest::newRow("PDF protected, odd passwords")
         << QVariantMap {{"format", "pdf"}, {"pdf_protect", true}, {"pdf_user_pw", "u\"s\\er\nÆ"},
                {"pdf_owner_pw", "own€r"}, {"pdf_protect_print", "true"},
@@ -459,7 +477,10 @@ void tst_Render::formats()
     QFETCH(QVariantMap, expected);
 
     QString job = m_job;
-    if (settings.contains("job")) {
+    if (settings.value("job") == "ps") {
+        job = m_dir.filePath("job.ps");
+        makeJob(job, 2);
+    } else if (settings.contains("job")) {
         job = m_dir.filePath("long.pdf");
         if (!QFileInfo::exists(job))
             makeJob(job, settings.value("job").toInt(), false);
@@ -483,8 +504,13 @@ void tst_Render::formats()
         }
         QVERIFY2(contentOf(path).startsWith(magic), qPrintable(path));
         QCOMPARE(pagesOf(path, settings.value("pdf_user_pw").toString()), pages);
-        for (auto it = expected.cbegin(); it != expected.cend(); ++it)
-            QCOMPARE(propertyOf(it.key(), path, settings), it.value().toString());
+        for (auto it = expected.cbegin(); it != expected.cend(); ++it) {
+            // Kept: the very bytes of the job.
+            const QString actual = it.key() == "kept"
+                ? (contentOf(path) == contentOf(job) ? "yes" : "no")
+                : propertyOf(it.key(), path, settings);
+            QCOMPARE(actual, it.value().toString());
+        }
     }
 }
 
@@ -507,6 +533,9 @@ void tst_Render::failures_data()
                       "<< /Type /Pages /Kids [] /Count 0 >>\nendobj\ntrailer\n<< /Root 1 0 R >>\n"
                       "%%EOF\n")
         << png << QStringList() << Failure::DamagedJob << "no pages";
+    QTest::newRow("damaged PostScript")
+        << QByteArray("%!PS\n/Helvetica findfont 9 scalefont setfont (x) shw showpage\n") << png
+        << QStringList() << Failure::DamagedJob << "cannot be converted";
     QTest::newRow("folder missing")
         << good << QVariantMap {{"format", "png"}, {"Path", m_dir.filePath("nowhere/")}}
         << QStringList() << Failure::FolderGone << "does not exist";

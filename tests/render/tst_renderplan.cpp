@@ -18,6 +18,8 @@ private slots:
     void stems();
     void everyPlan_data();
     void everyPlan();
+    void programs_data();
+    void programs();
 };
 
 void tst_RenderPlan::stems_data()
@@ -128,6 +130,51 @@ void tst_RenderPlan::everyPlan()
             QCOMPARE(plan.outputs.first().fileName, "Doc." + options.extension());
         }
     }
+}
+
+void tst_RenderPlan::programs_data()
+{
+    QTest::addColumn<QString>("colour");
+    QTest::addColumn<int>("quality");
+    QTest::addColumn<bool>("text");
+    QTest::addColumn<bool>("multipage");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QStringList>("programs");
+
+    QTest::newRow("kept PDF: copied in-process")
+        << "24" << 100 << true << true << "" << QStringList {};
+    QTest::newRow("kept PDF, information")
+        << "24" << 100 << true << true << "T" << QStringList {"qpdf"};
+    QTest::newRow("kept PDF, a file per page")
+        << "24" << 100 << true << false << "" << QStringList {"qpdf"};
+    QTest::newRow("greyscale drawn anew")
+        << "24g" << 100 << true << true << "" << QStringList {"gs"};
+    QTest::newRow("monochrome drawn anew")
+        << "1" << 100 << true << true << "" << QStringList {"gs"};
+    QTest::newRow("lower quality drawn anew")
+        << "24" << 99 << true << true << "" << QStringList {"gs"};
+    QTest::newRow("no text layer drawn anew")
+        << "24" << 100 << false << true << "" << QStringList {"gs"};
+}
+
+// A PDF is drawn anew only when the options change its pages; otherwise no program renders it.
+void tst_RenderPlan::programs()
+{
+    QFETCH(QString, colour);
+    QFETCH(int, quality);
+    QFETCH(bool, text);
+    QFETCH(bool, multipage);
+    QFETCH(QString, title);
+    QFETCH(QStringList, programs);
+    Options options;
+    options.format = Formats::Pdf;
+    options.name = "Doc";
+    options.colorCode = colour;
+    options.qualityPdf = quality;
+    options.pdfText = text;
+    options.multipagePdf = multipage;
+    options.pdf.title = title;
+    QCOMPARE(makePlan(options, {"/spool/job.pdf", 3, 2}).programs(), programs);
 }
 
 QTEST_GUILESS_MAIN(tst_RenderPlan)
