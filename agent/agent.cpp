@@ -156,6 +156,8 @@ void Agent::takeJob(const QString &name)
     }
     // Messages name the job by this too: a title is whatever the printing program chose.
     m_fileName = JobRules::safeFileName(QString::fromStdString(m_job->info.title));
+    if (Render::isPostScript(m_job->document))
+        keepConverterReady();
     if (!JobRules::dialogWanted(SettingsKey(SettingsScope::User).value(Settings::ChDialog)))
         return render(Render::Existing::KeepAll, m_fileName);
     showDialog();
@@ -204,12 +206,24 @@ void Agent::render(Render::Existing existing, const QString &name)
 {
     if (m_spool.markRenderAttempt(m_jobName) >= maxRenderAttempts)
         return failJob(QStringLiteral("rendering was interrupted twice"));
-    const Render::Result result = Render::renderJob(m_job->document, name, existing);
+    const bool postScript = Render::isPostScript(m_job->document);
+    const Render::Result result = Render::renderJob(
+        m_job->document, name, existing, postScript ? m_converter.get() : nullptr);
+    if (postScript)
+        keepConverterReady();
     if (!result.ok())
         return failJob(result.message);
     if (!result.files.isEmpty() && SettingsKey(optionsScope()).flag(Settings::LoadExtApp))
         openResult(result.files.first());
     finishJob();
+}
+
+void Agent::keepConverterReady()
+{
+    if (m_converter && m_converter->ready())
+        return;
+    m_converter = std::make_unique<Render::PostScriptConverter>();
+    m_converter->start();
 }
 
 void Agent::openResult(const QString &file) const

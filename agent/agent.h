@@ -4,12 +4,14 @@
 
 #include "agent/notifier.h"
 #include "agent/spoolfolder.h"
+#include "render/postscript.h"
 #include "render/renderjob.h"
 
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <QProcess>
 
+#include <memory>
 #include <optional>
 
 #include <sys/types.h>
@@ -58,6 +60,7 @@ private:
     void showDialog();
     void dialogFinished(bool started, bool exitedNormally);
     void render(Render::Existing existing, const QString &name);
+    void keepConverterReady();
     void openResult(const QString &file) const;
     void finishJob();
     void failJob(const QString &why);
@@ -75,6 +78,9 @@ private:
     QString m_jobName; // the spool's name of the current job, also when it could not be read
     QString m_fileName; // the job's title made safe as a file name
     KeyStamp m_markedKey;
+    // Started as a PostScript job is taken, so that it starts while the dialog is up, and kept
+    // ready after one for the next: a program's jobs come one after another.
+    std::unique_ptr<Render::PostScriptConverter> m_converter;
 };
 
 #endif // VELLUMIO_AGENT_H
