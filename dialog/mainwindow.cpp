@@ -7,6 +7,7 @@
 #include "pdf/pdfprotect.h"
 #include "platform/windoworder.h"
 #include "settings/jobsettings.h"
+#include "style/compacttabs.h"
 
 #include <QFile>
 #include <QKeyEvent>
@@ -72,6 +73,8 @@ MainWindow::MainWindow(QWidget *parent)
 
     readAllUsersFlag();
     loadSettings();
+    // Loading installs the style, whose tab padding decides whether all twelve tabs show whole.
+    CompactTabs::fit(ui->tabWidget);
 }
 
 MainWindow::~MainWindow()

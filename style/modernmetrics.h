@@ -53,6 +53,7 @@ static constexpr int ToolButtonArrowOffset = 4; // menu arrow of a tool button f
 static constexpr int ToolButtonArrowShrink = 5;
 
 // Tabs of main windows
+static constexpr int TabHSpace = 12; // text padding, both sides together: twelve tabs fit 471 px
 static constexpr int TabBarBaseOverlap = 0;
 static constexpr int TabBarTabShiftVertical = 2;
 static constexpr int SelectedTabOverlap = 2; // a selected tab reaches over its left neighbour

@@ -338,6 +338,10 @@ int WindowsModernStyle::pixelMetric(
         if (isMainWindowTabWidget(widget) || isMainWindowTabBar(widget))
             return TabBarBaseOverlap;
         break;
+    case PM_TabBarTabHSpace:
+        if (isMainWindowTabBar(widget))
+            return TabHSpace;
+        break;
     case PM_TabBarTabShiftVertical:
         if (isMainWindowTabBar(widget)) {
             const bool south

@@ -282,6 +282,8 @@ private slots:
         row("north tabs shift down",            "main bar",     S::PM_TabBarTabShiftVertical, 2);
         row("dialog tabs shift as the base",    "dialog bar",   S::PM_TabBarTabShiftVertical, Base);
         row("main tabs overlap nothing",        "main tabs",    S::PM_TabBarBaseOverlap,      0);
+        row("main tabs padded narrowly",        "main bar",     S::PM_TabBarTabHSpace,        12);
+        row("dialog tabs padded as the base",   "dialog bar",   S::PM_TabBarTabHSpace,        Base);
         // clang-format on
     }
 
