@@ -9,6 +9,7 @@
 #include "settings/jobsettings.h"
 #include "style/compacttabs.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QKeyEvent>
 #include <QSignalBlocker>
@@ -37,13 +38,26 @@ bool isAsciiDigits(const QString &text)
     return true;
 }
 
+// The point size of the form's font, as mainwindow.ui gives it to the window.
+constexpr int formPointSize = 8;
+
 } // namespace
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , ui(new Ui::MainWindow)
 {
+    // The form is built with the application's font at the form's size, which is then put back.
+    // Qt lays out a new line edit's text once in the application's font before it takes its own,
+    // and the pages are built without a parent, in the application's font, before they join the
+    // window. Built in another size, each would load that size of the font and lay out again when
+    // its page joins, and the colour list would build its pop-up list then.
+    const QFont applicationFont = QApplication::font();
+    QFont formFont = applicationFont;
+    formFont.setPointSize(formPointSize);
+    QApplication::setFont(formFont);
     ui->setupUi(this);
+    QApplication::setFont(applicationFont);
 
     connect(ui->pb_filename, &QToolButton::clicked, this, &MainWindow::pb_filename);
     connect(ui->pb_print, &QPushButton::clicked, this, &MainWindow::pb_print);

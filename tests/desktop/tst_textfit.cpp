@@ -67,7 +67,10 @@ private slots:
     {
         QFETCH(QString, style);
         QFETCH(Forms::Form, form);
+        const QFont desktopFont = QApplication::font();
         const std::unique_ptr<Forms::Shown> shown = Forms::show(form, style);
+        // Message boxes and file dialogs keep the desktop's font whatever the windows set.
+        QCOMPARE(QApplication::font(), desktopFont);
         QStringList problems = TextRoom::problemsBelow(shown->window());
         // The shared options of the format pages are measured where the form puts them.
         for (QTabWidget *tabs : shown->window()->findChildren<QTabWidget *>()) {
