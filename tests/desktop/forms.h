@@ -68,6 +68,16 @@ inline bool loadTranslation(QTranslator *translator, const QString &language)
     return translator->load(QStringLiteral(":/i18n/fmtask_") + language + QStringLiteral(".qm"));
 }
 
+// True without problems; each problem is listed on its own line, since a failure message is cut
+// at its end.
+inline bool none(QStringList problems)
+{
+    problems.removeDuplicates();
+    for (const QString &problem : std::as_const(problems))
+        qWarning("%s", qPrintable(problem));
+    return problems.isEmpty();
+}
+
 } // namespace Forms
 
 #endif // FMTASK_TESTS_FORMS_H

@@ -81,32 +81,29 @@ private slots:
     }
 
     // Each shipped language changes the dialog's words when installed, and Qt's own buttons
-    // with it where the system has Qt's translations.
+    // with it where the system has Qt's translations; a language without one installs nothing.
     void installTranslation_data()
     {
         QTest::addColumn<QString>("language");
         for (const QString &language : RunProtocol::shippedLanguages())
             QTest::newRow(qPrintable(language)) << language;
+        QTest::newRow("unknown") << QStringLiteral("xx");
     }
     void installTranslation()
     {
         QFETCH(QString, language);
         const InstalledTranslation translation(language);
-        QVERIFY(translation.installed);
-        QVERIFY(QCoreApplication::translate("MainWindow", "Show this dialog next time")
-            != QLatin1String("Show this dialog next time"));
+        const bool shipped = RunProtocol::shippedLanguages().contains(language);
+        QCOMPARE(translation.installed, shipped);
+        QCOMPARE(QCoreApplication::translate("MainWindow", "Show this dialog next time")
+                != QLatin1String("Show this dialog next time"),
+            shipped);
         const QString toolkit = QLibraryInfo::path(QLibraryInfo::TranslationsPath)
             + QStringLiteral("/qtbase_") + language + QStringLiteral(".qm");
-        if (!QFile::exists(toolkit))
+        if (shipped && !QFile::exists(toolkit))
             QSKIP("Qt's own translations are not installed (Debian: qt6-translations-l10n)");
-        QVERIFY(QCoreApplication::translate("QPlatformTheme", "Cancel") != QLatin1String("Cancel"));
-    }
-
-    void unknownLanguageInstallsNothing()
-    {
-        const InstalledTranslation translation(QStringLiteral("xx"));
-        QVERIFY(!translation.installed);
-        QCOMPARE(QCoreApplication::translate("MainWindow", "Print"), "Print");
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel") != QLatin1String("Cancel"),
+            shipped);
     }
 
     // XWayland when both displays are there and the user chose no platform; otherwise Qt's

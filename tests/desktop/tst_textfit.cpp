@@ -29,15 +29,6 @@ QFontDatabase::WritingSystem writingSystemOf(const QString &language)
     return QFontDatabase::Latin;
 }
 
-// Lists each problem on its own line, since a failure message is cut at its end.
-bool none(QStringList problems)
-{
-    problems.removeDuplicates();
-    for (const QString &problem : std::as_const(problems))
-        qWarning("%s", qPrintable(problem));
-    return problems.isEmpty();
-}
-
 } // namespace
 
 class tst_TextFit : public QObject
@@ -62,6 +53,9 @@ private slots:
             QGuiApplication::primaryScreen()->devicePixelRatio());
     }
 
+    // Every text and every tab shows whole with each page current, the shared options of the
+    // format pages on it and no tab scrolled away: the main dialog's twelve tabs fit its designed
+    // width only with the narrow padding both looks give them.
     void everyTextWhole_data() { rows(); }
     void everyTextWhole()
     {
@@ -72,30 +66,14 @@ private slots:
         // Message boxes and file dialogs keep the desktop's font whatever the windows set.
         QCOMPARE(QApplication::font(), desktopFont);
         QStringList problems = TextRoom::problemsBelow(shown->window());
-        // The shared options of the format pages are measured where the form puts them.
-        for (QTabWidget *tabs : shown->window()->findChildren<QTabWidget *>()) {
-            for (int index = 0; index < tabs->count(); ++index)
-                problems << TextRoom::problemsBelow(tabs->widget(index));
-        }
-        QVERIFY2(none(problems), "texts not shown whole, listed above");
-    }
-
-    // Every tab shows whole whichever page is current, without scrolling: the main dialog's
-    // twelve tabs fit its designed width only with the narrow padding both looks give them.
-    void everyTabWhole_data() { rows(); }
-    void everyTabWhole()
-    {
-        QFETCH(QString, style);
-        QFETCH(Forms::Form, form);
-        const std::unique_ptr<Forms::Shown> shown = Forms::show(form, style);
-        QStringList problems;
         for (QTabWidget *tabs : shown->window()->findChildren<QTabWidget *>()) {
             for (int index = 0; index < tabs->count(); ++index) {
                 tabs->setCurrentIndex(index);
+                problems << TextRoom::problemsBelow(tabs->widget(index));
                 TextRoom::checkTabBar(&problems, tabs->tabBar());
             }
         }
-        QVERIFY2(none(problems), "tabs not shown whole, listed above");
+        QVERIFY2(Forms::none(problems), "texts not shown whole, listed above");
     }
 
 private:
