@@ -139,6 +139,71 @@ std::optional<std::string> decodeValue(const std::string &text)
     return value;
 }
 
+namespace {
+
+// The options of a job as the scheduler writes them: "name=value" or a bare name (true), or
+// "noname" (false), apart by blanks; quotes and backslashes keep blanks in a value.
+std::map<std::string, std::string> parseOptions(const std::string &text)
+{
+    std::map<std::string, std::string> options;
+    size_t at = 0;
+    while (at < text.size()) {
+        while (at < text.size() && (text[at] == ' ' || text[at] == '\t'))
+            ++at;
+        std::string word;
+        char quote = 0;
+        for (; at < text.size() && (quote || (text[at] != ' ' && text[at] != '\t')); ++at) {
+            const char c = text[at];
+            if (c == '\\' && at + 1 < text.size())
+                word += text[++at];
+            else if (quote && c == quote)
+                quote = 0;
+            else if (!quote && (c == '\'' || c == '"'))
+                quote = c;
+            else
+                word += c;
+        }
+        if (word.empty())
+            continue;
+        const size_t equals = word.find('=');
+        if (equals != std::string::npos)
+            options[word.substr(0, equals)] = word.substr(equals + 1);
+        else if (word.compare(0, 2, "no") == 0)
+            options[word.substr(2)] = "false";
+        else
+            options[word] = "true";
+    }
+    return options;
+}
+
+} // namespace
+
+std::string layoutFilter(const std::string &options, const std::string &contentType)
+{
+    const std::map<std::string, std::string> given = parseOptions(options);
+    const auto value = [&given](const char *name) {
+        const auto found = given.find(name);
+        return found == given.end() ? std::string() : found->second;
+    };
+    const auto set = [&](const char *name, const std::string &neutral) {
+        const std::string text = value(name);
+        return !text.empty() && text != neutral;
+    };
+    const std::string orientation = value("orientation-requested");
+    const bool layout = set("page-ranges", std::string()) || set("number-up", "1")
+        || set("page-set", "all") || set("outputorder", "normal") || value("mirror") == "true"
+        || value("fit-to-page") == "true" || value("fitplot") == "true"
+        || value("landscape") == "true" || orientation == "4" || orientation == "5"
+        || orientation == "6";
+    if (!layout)
+        return {};
+    if (contentType == "application/pdf" || contentType == "application/vnd.cups-pdf")
+        return "pdftopdf";
+    if (contentType == "application/postscript")
+        return "pstops";
+    return {};
+}
+
 std::string formatInfo(const Info &info)
 {
     std::ostringstream out;

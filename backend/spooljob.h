@@ -57,6 +57,13 @@ struct Arguments
 // Empty when the words are not a job's (wrong count, a job id that is not a number, no user).
 std::optional<Arguments> parseArguments(const std::vector<std::string> &words);
 
+// CUPS's own filter that lays out the pages of the document the backend receives, of the type
+// `contentType` (the scheduler's FINAL_CONTENT_TYPE), as the job's options ask (a page range,
+// several pages on a sheet, reversed order, landscape, ...): "pdftopdf" for PDF, "pstops" for
+// PostScript. Empty when the options leave the pages as they are, as most jobs do. The queue hands
+// documents on without it, so the backend runs it itself for the jobs that need it.
+std::string layoutFilter(const std::string &options, const std::string &contentType);
+
 // What the agent needs besides the document; written beside it as "key=value" lines.
 struct Info
 {

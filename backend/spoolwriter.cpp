@@ -11,8 +11,10 @@
 #include <grp.h>
 #include <pwd.h>
 #include <sstream>
+#include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
@@ -171,6 +173,56 @@ long long copyDocument(int input, int output)
     }
 }
 
+// CUPS's layout filter for a job, as the scheduler would have run it before the backend, but as
+// the job's user: the document on its input, the queue's description (read as root before) in a
+// private memory file, since the user may not read the scheduler's copy.
+struct LayoutFilter
+{
+    std::string program; // empty: the document is spooled as it came
+    std::string description;
+    std::string temporary; // the folder of its temporary files: the job's own while it is written
+};
+
+// Starts `filter` on `input`; the descriptor of its output, or -1 (errno set).
+int startFilter(const LayoutFilter &filter, const Arguments &arguments, int input, pid_t &child)
+{
+    int description = -1;
+    if (!filter.description.empty()) {
+        description = ::memfd_create("ppd", 0);
+        if (description < 0
+            || !writeAll(description, filter.description.data(), filter.description.size()))
+            return -1;
+    }
+    int output[2];
+    if (::pipe2(output, O_CLOEXEC) != 0)
+        return -1;
+    child = ::fork();
+    if (child == 0) {
+        if (::dup2(input, STDIN_FILENO) < 0 || ::dup2(output[1], STDOUT_FILENO) < 0)
+            ::_exit(127);
+        ::setenv("TMPDIR", filter.temporary.c_str(), 1);
+        if (description >= 0)
+            ::setenv("PPD", ("/proc/self/fd/" + std::to_string(description)).c_str(), 1);
+        else
+            ::unsetenv("PPD");
+        const char *words[] = {filter.program.c_str(), arguments.jobId.c_str(),
+            arguments.user.c_str(), arguments.title.c_str(), arguments.copies.c_str(),
+            arguments.options.c_str(), nullptr};
+        ::execv(words[0], const_cast<char *const *>(words));
+        ::_exit(127);
+    }
+    const int error = errno;
+    ::close(output[1]);
+    if (description >= 0)
+        ::close(description);
+    if (child < 0) {
+        ::close(output[0]);
+        errno = error;
+        return -1;
+    }
+    return output[0];
+}
+
 Outcome writeFile(int folder, const char *name, int input, const std::string &text, long long &size)
 {
     Descriptor file(
@@ -190,9 +242,29 @@ Outcome writeFile(int folder, const char *name, int input, const std::string &te
     return {};
 }
 
+// The document through the layout filter into the job's folder.
+Outcome writeFiltered(int job, int input, LayoutFilter filter, const Arguments &arguments,
+    const std::string &incoming, long long &size)
+{
+    filter.temporary += "/" + incoming;
+    pid_t child = -1;
+    Descriptor output(startFilter(filter, arguments, input, child));
+    if (output.fd < 0)
+        return systemFailure("cannot start " + filter.program);
+    Outcome outcome = writeFile(job, documentFile, output.fd, std::string(), size);
+    ::close(output.fd);
+    output.fd = -1;
+    int status = 0;
+    while (::waitpid(child, &status, 0) < 0 && errno == EINTR) { }
+    if (outcome.ok() && !(WIFEXITED(status) && WEXITSTATUS(status) == 0))
+        outcome = failure(BackendStatus::Failed, filter.program + " could not lay out the pages");
+    return outcome;
+}
+
 // The job is written under a temporary name and renamed whole into place, so an agent never sees
 // half a job.
-Outcome writeJob(int folder, int input, Info info)
+Outcome writeJob(
+    int folder, int input, Info info, const LayoutFilter &filter, const Arguments &arguments)
 {
     timespec now {};
     ::clock_gettime(CLOCK_REALTIME, &now);
@@ -209,7 +281,9 @@ Outcome writeJob(int folder, int input, Info info)
         if (job.fd < 0)
             outcome = systemFailure("cannot open the job's folder");
         if (outcome.ok())
-            outcome = writeFile(job.fd, documentFile, input, std::string(), info.size);
+            outcome = filter.program.empty()
+                ? writeFile(job.fd, documentFile, input, std::string(), info.size)
+                : writeFiltered(job.fd, input, filter, arguments, incoming, info.size);
         if (outcome.ok())
             outcome = writeFile(job.fd, infoFile, -1, formatInfo(info), ignored);
         if (outcome.ok()
@@ -276,6 +350,17 @@ Outcome spoolJob(const Arguments &arguments, const std::string &root)
             : ::open(arguments.file.c_str(), O_RDONLY | O_CLOEXEC));
     if (document.fd < 0)
         return systemFailure("cannot open the document");
+    LayoutFilter filter;
+    const char *type = std::getenv("FINAL_CONTENT_TYPE");
+    const std::string program = layoutFilter(arguments.options, type ? type : "");
+    if (!program.empty()) {
+        const char *serverBin = std::getenv("CUPS_SERVERBIN");
+        filter.program
+            = std::string(serverBin ? serverBin : "/usr/lib/cups") + "/filter/" + program;
+        filter.temporary = userFolder(root, uid);
+        if (const char *description = std::getenv("PPD"))
+            filter.description = readWholeFile(description);
+    }
     outcome = dropTo(uid, gid);
     if (!outcome.ok())
         return outcome;
@@ -286,7 +371,7 @@ Outcome spoolJob(const Arguments &arguments, const std::string &root)
     info.title = arguments.title;
     info.copies = arguments.copies;
     info.options = arguments.options;
-    outcome = writeJob(folder.fd, document.fd, info);
+    outcome = writeJob(folder.fd, document.fd, info, filter, arguments);
     if (outcome.ok())
         outcome.message = "INFO: job " + arguments.jobId + " spooled for " + arguments.user;
     return outcome;
