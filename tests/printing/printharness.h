@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QSettings>
 #include <QThread>
 
 #include <csignal>
@@ -103,6 +104,17 @@ struct ThrowawayUser
     {
         return home + QStringLiteral("/.config/Tarnwick/Vellumio.conf");
     }
+    // Values written into it as the dialog leaves them.
+    void writeSettings(const QVariantMap &values) const
+    {
+        {
+            QSettings file(settingsFile(), QSettings::IniFormat);
+            for (auto it = values.begin(); it != values.end(); ++it)
+                file.setValue(it.key(), it.value());
+        }
+        ::chown(QFile::encodeName(settingsFile()), uid, gid);
+        ::chmod(QFile::encodeName(settingsFile()), 0600);
+    }
 
     QString name, home;
     uid_t uid = 0;
@@ -141,6 +153,20 @@ inline bool writeFile(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+// Everything in a folder, hidden entries too, by name.
+inline QStringList entries(const QString &folder)
+{
+    return QDir(folder).entryList(
+        QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+// The spool root as the installation leaves it: root's, 0711, with the stamp agents wait on.
+inline bool makeSpoolRoot(const QString &root)
+{
+    return QDir().mkpath(root) && ::chmod(QFile::encodeName(root), 0711) == 0
+        && writeFile(root + QStringLiteral("/folders.stamp"), QByteArray());
 }
 
 // A scheduler of its own: configuration, spool, logs and socket in `folder`, a free loopback port,
@@ -214,15 +240,15 @@ struct PrivateCups
         return false;
     }
 
-    // The Vellumio queue with the project's description, under its own operation policy.
-    bool addQueue(const QString &ppd)
+    // A queue with the description `ppd` for the project's backend, under its own policy.
+    bool addQueue(const QString &ppd, const QString &name = QStringLiteral("Vellumio"))
     {
         return runAs(nullptr, QStringLiteral("lpadmin"),
-                   {QStringLiteral("-h"), socket(), QStringLiteral("-p"),
-                       QStringLiteral("Vellumio"), QStringLiteral("-E"), QStringLiteral("-v"),
-                       QStringLiteral("vellumio:/"), QStringLiteral("-P"), ppd,
-                       QStringLiteral("-o"), QStringLiteral("printer-is-shared=false"),
-                       QStringLiteral("-o"), QStringLiteral("printer-op-policy=vellumio")},
+                   {QStringLiteral("-h"), socket(), QStringLiteral("-p"), name,
+                       QStringLiteral("-E"), QStringLiteral("-v"), QStringLiteral("vellumio:/"),
+                       QStringLiteral("-P"), ppd, QStringLiteral("-o"),
+                       QStringLiteral("printer-is-shared=false"), QStringLiteral("-o"),
+                       QStringLiteral("printer-op-policy=vellumio")},
                    QProcessEnvironment::systemEnvironment())
             == 0;
     }

@@ -9,7 +9,6 @@
 
 #include <QDBusConnection>
 #include <QDirIterator>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -71,12 +70,6 @@ struct SmallDisk
     bool mounted;
 };
 
-QStringList entries(const QString &folder)
-{
-    return QDir(folder).entryList(
-        QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-}
-
 // Processes whose first command-line word is `program`, and every command line seen.
 QList<int> processesOf(const QString &program, QStringList *commandLines = nullptr)
 {
@@ -115,9 +108,7 @@ private slots:
         // A copy of the agent finds the scripted dialog beside it as its "fmtask".
         QVERIFY(QDir().mkpath(path("bin")) && QFile::copy(VELLUMIO_AGENT, agent()));
         QVERIFY(QFile::link(SCRIPTED_DIALOG, path("bin/fmtask")));
-        // The spool root as the installation leaves it.
-        QVERIFY(QDir().mkpath(m_spool) && ::chmod(QFile::encodeName(m_spool), 0711) == 0);
-        QVERIFY(writeFile(m_spool + "/folders.stamp", QByteArray()));
+        QVERIFY(makeSpoolRoot(m_spool));
         m_out = m_ann->home + "/out";
         QVERIFY(m_ann->makeFolder(m_out, 0700));
         // The session bus lets every user in: the agent is ann's, the listening service root's.
@@ -149,7 +140,7 @@ private slots:
         QDir(m_spool + '/' + QString::number(m_ann->uid)).removeRecursively();
         QFile::remove(m_ann->home + "/dialog.log");
         QFile::remove(m_ann->settingsFile());
-        settings({{"path", m_out + '/'}, {"format", "pdf"}});
+        m_ann->writeSettings({{"path", m_out + '/'}, {"format", "pdf"}});
         m_notifications.received.clear();
     }
     void cleanup()
@@ -201,10 +192,8 @@ private slots:
         const QString user = spool == Spool::UnknownUser ? QStringLiteral("nosuchuser")
             : spool == Spool::SystemUser                 ? QStringLiteral("daemon")
                                                          : m_ann->name;
-        const QByteArray document
-            = pdfs({"private"})
-                  .value(0)
-                  .leftJustified(spool == Spool::FullDisk ? 1 << 20 : 0, '\n');
+        const int size = spool == Spool::FullDisk ? 1 << 20 : 0;
+        const QByteArray document = pdfs({"private"}).value(0).leftJustified(size, '\n');
         const int spoolStatus = spoolJob(root, user, "private", document);
         QCOMPARE(spoolStatus, backendStatus);
 
@@ -292,49 +281,60 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(m_out + "/printed before.pdf"), 30000);
         QCOMPARE(spoolJob(m_spool, m_ann->name, "hang", pdfs({"hang"}).value(0)), 0);
         QTRY_VERIFY_WITH_TIMEOUT(dialogLog().contains("open hang"), 30000);
-        if (killAgent) {
-            m_agent.kill();
-            m_agent.waitForFinished();
-            // The dialog goes with its agent, the job stays.
-            QTRY_VERIFY(processesOf(path("bin/fmtask")).isEmpty());
-            const qsizetype kept = jobsIn(m_spool).size();
-            startAgent(m_agent);
-            QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(m_out + "/hang.pdf"), 30000);
-            qInfo("agent killed with SIGKILL during the dialog: %lld job kept, printed at the next "
-                  "start",
-                qlonglong(kept));
-            QCOMPARE(kept, 1);
-        } else {
-            if (removeJob)
-                QVERIFY(QDir(jobsIn(m_spool).value(0)).removeRecursively());
+        if (removeJob)
+            QVERIFY(QDir(jobsIn(m_spool).value(0)).removeRecursively());
+        if (killAgent)
+            m_agent.kill(), m_agent.waitForFinished();
+        else
             ::kill(processesOf(path("bin/fmtask")).value(0), SIGKILL);
-            QTRY_VERIFY_WITH_TIMEOUT(jobsIn(m_spool).isEmpty(), 30000);
-            QVERIFY(!QFile::exists(m_out + "/hang.pdf"));
-            QTRY_COMPARE(m_notifications.received.filter("ended unexpectedly").size(), 1);
+        // The dialog goes with its agent and the job stays, to be shown at the next start; a job
+        // whose dialog was killed is dropped as cancelled and the user told, the next one printed.
+        QTRY_VERIFY(processesOf(path("bin/fmtask")).isEmpty());
+        QTRY_COMPARE_WITH_TIMEOUT(jobsIn(m_spool).size(), killAgent ? 1 : 0, 30000);
+        if (killAgent)
+            startAgent(m_agent);
+        else
             QCOMPARE(spoolJob(m_spool, m_ann->name, "after", pdfs({"after"}).value(0)), 0);
-            QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(m_out + "/after.pdf"), 30000);
-            qInfo("dialog killed after an earlier Print: job dropped as cancelled, user told, next "
-                  "job printed");
-        }
+        QTRY_VERIFY_WITH_TIMEOUT(
+            QFile::exists(m_out + (killAgent ? "/hang.pdf" : "/after.pdf")), 30000);
+        QTRY_COMPARE(
+            m_notifications.received.filter("ended unexpectedly").size(), killAgent ? 0 : 1);
+        QCOMPARE(QFile::exists(m_out + "/hang.pdf"), killAgent);
+        qInfo("%s during the dialog: the job %s", killAgent ? "agent killed" : "dialog killed",
+            killAgent ? "kept and printed at the next start"
+                      : "dropped as cancelled, the user told, the next job printed");
     }
 
-    // With the dialog turned off, hostile titles render at once under safe names, side by side.
+    // With the dialog turned off, hostile titles render at once under safe names, side by side,
+    // protected: other users can read every command line, and no PDF password is ever on one.
     void hostileTitles()
     {
-        settings({{"path", m_out + '/'}, {"format", "pdf"}, {"chDialog", "false"}});
+        const QString password = QStringLiteral("Sesame-7761");
+        m_ann->writeSettings({{"path", m_out + '/'}, {"format", "pdf"}, {"chDialog", "false"},
+            {"pdf_protect", true}, {"pdf_user_pw", scramblePassword(password)},
+            {"pdf_owner_pw", scramblePassword(password + "-owner")}});
         const QStringList titles {"../../escape", "-rf --no-preserve-root", "a/b/c", "\x1b[2J", "",
             "\n", QString(10000, 'x'), "..", ".hidden"};
         for (const QString &title : titles)
             QCOMPARE(spoolJob(m_spool, m_ann->name, title, pdfs({"hostile"}).value(0)), 0);
         const QStringList homeBefore = entries(m_ann->home);
-        QCOMPARE(runAgent({"--once"}, m_session), 0);
+        startAgent(m_agent, {"--once"});
+        QStringList seen;
+        while (m_agent.state() != QProcess::NotRunning) {
+            processesOf(QString(), &seen);
+            QCoreApplication::processEvents();
+        }
+        QCOMPARE(m_agent.exitCode(), 0);
         QVERIFY(dialogLog().isEmpty());
         QCOMPARE(entries(m_ann->home), homeBefore);
         QVERIFY(!QFile::exists(path("escape.pdf")));
         const QStringList made = entries(m_out);
-        qInfo("%lld hostile titles: %lld files in the chosen folder, %lld dialogs, home folder %s",
+        qInfo(
+            "%lld hostile titles: %lld files made, %lld dialogs; of %lld command lines read, %lld "
+            "of qpdf, %lld with the password",
             qlonglong(titles.size()), qlonglong(made.size()), qlonglong(dialogLog().count("open ")),
-            entries(m_ann->home) == homeBefore ? "unchanged" : "changed");
+            qlonglong(seen.size()), qlonglong(seen.filter("qpdf").size()),
+            qlonglong(seen.filter(password).size()));
         QCOMPARE(made.filter(QRegularExpression("\\.pdf$")).size(), titles.size());
         for (const QString &title : titles) {
             const QString name = JobRules::safeFileName(title);
@@ -342,6 +342,11 @@ private slots:
                          [&](const QString &file) { return file.startsWith(name); }),
                 qPrintable(name));
         }
+        QVERIFY(seen.filter("qpdf").size() >= 1);
+        QVERIFY(seen.filter(password).isEmpty());
+        QByteArray info;
+        QVERIFY(runAs(nullptr, "pdfinfo", {m_out + '/' + made.value(0)}, m_session, &info) != 0);
+        QVERIFY(info.contains("Incorrect password"));
     }
 
     void failures_data()
@@ -363,15 +368,13 @@ private slots:
         QFETCH(Fault, fault);
         QFETCH(QString, told);
         QFETCH(bool, nextPrinted);
-        QString out = m_out;
-        if (fault == Fault::FolderGone)
-            out += "/gone";
+        const QString out = m_out + (fault == Fault::FolderGone ? "/gone" : "");
         std::optional<SmallDisk> disk;
         if (fault == Fault::DiskFull)
             QVERIFY(disk.emplace(m_out, "size=512k,mode=0700,uid=" + QString::number(m_ann->uid))
                         .mounted);
         if (fault != Fault::DialogMissing)
-            settings({{"path", out + '/'}, {"format", "bmp"}, {"image_color", "24"},
+            m_ann->writeSettings({{"path", out + '/'}, {"format", "bmp"}, {"image_color", "24"},
                 {"chDialog", "false"}});
         else
             QFile::rename(path("bin/fmtask"), path("bin/fmtask.away"));
@@ -397,31 +400,6 @@ private slots:
         QCOMPARE(runAgent({"--retry"}, m_session), 0);
         QVERIFY(entries(failed).isEmpty());
         QCOMPARE(jobsIn(m_spool).size(), nextPrinted ? 1 : 2);
-    }
-
-    // Other users can read every command line: the PDF passwords must never be on one.
-    void passwordsOffCommandLines()
-    {
-        const QString password = QStringLiteral("Sesame-7761");
-        settings({{"path", m_out + '/'}, {"format", "pdf"}, {"pdf_protect", true},
-            {"pdf_user_pw", scramblePassword(password)},
-            {"pdf_owner_pw", scramblePassword(password + "-owner")}});
-        QCOMPARE(spoolJob(m_spool, m_ann->name, "sealed", pdfs({"sealed"}).value(0)), 0);
-        startAgent(m_agent, {"--once"});
-        QStringList seen;
-        while (m_agent.state() != QProcess::NotRunning) {
-            processesOf(QString(), &seen);
-            QCoreApplication::processEvents();
-        }
-        qInfo("%lld command lines read while the protected PDF rendered, %lld of qpdf, %lld with "
-              "the password",
-            qlonglong(seen.size()), qlonglong(seen.filter("qpdf").size()),
-            qlonglong(seen.filter(password).size()));
-        QVERIFY(seen.filter("qpdf").size() >= 1);
-        QVERIFY(seen.filter(password).isEmpty());
-        QByteArray info;
-        QVERIFY(runAs(nullptr, "pdfinfo", {m_out + "/sealed.pdf"}, m_session, &info) != 0);
-        QVERIFY(info.contains("Incorrect password"));
     }
 
     void cleanupTestCase()
@@ -450,18 +428,6 @@ private:
         process.setProcessChannelMode(QProcess::ForwardedChannels);
         startAs(process, m_ann.get(), agent(), arguments, m_session);
         QVERIFY(process.waitForStarted());
-    }
-
-    // The user's settings, as the dialog left them.
-    void settings(const QVariantMap &values)
-    {
-        {
-            QSettings file(m_ann->settingsFile(), QSettings::IniFormat);
-            for (auto it = values.begin(); it != values.end(); ++it)
-                file.setValue(it.key(), it.value());
-        }
-        ::chown(QFile::encodeName(m_ann->settingsFile()), m_ann->uid, m_ann->gid);
-        ::chmod(QFile::encodeName(m_ann->settingsFile()), 0600);
     }
 
     static QProcessEnvironment backendEnvironment(const QString &root)
@@ -499,11 +465,9 @@ private:
 
     QStringList jobsIn(const QString &root) const
     {
-        const QString folder = root + '/' + QString::number(m_ann->uid);
-        QStringList jobs;
-        for (const QString &name : entries(folder))
-            if (name != "failed")
-                jobs += folder + '/' + name;
+        const QString folder = root + '/' + QString::number(m_ann->uid) + '/';
+        QStringList jobs = entries(folder).replaceInStrings(QRegularExpression("^"), folder);
+        jobs.removeOne(folder + "failed");
         return jobs;
     }
 
@@ -519,14 +483,13 @@ private:
         QByteArray program = "/Helvetica findfont 24 scalefont setfont ";
         for (const QByteArray &text : texts)
             program += "10 20 moveto (" + text + ") show showpage ";
-        QStringList arguments {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=pdfwrite"};
-        if (points)
-            arguments << "-dDEVICEWIDTHPOINTS=" + QString::number(points)
-                      << "-dDEVICEHEIGHTPOINTS=" + QString::number(points) << "-dFIXEDMEDIA";
-        else
-            arguments << "-sPAPERSIZE=a4";
-        arguments << "-o" << path("page%d.pdf") << "-c" << QString::fromUtf8(program);
-        if (runAs(nullptr, "gs", arguments, QProcessEnvironment::systemEnvironment()) != 0)
+        if (runAs(nullptr, "gs",
+                {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=pdfwrite", "-dFIXEDMEDIA",
+                    "-dDEVICEWIDTHPOINTS=" + QString::number(points ? points : 595),
+                    "-dDEVICEHEIGHTPOINTS=" + QString::number(points ? points : 842), "-o",
+                    path("page%d.pdf"), "-c", QString::fromUtf8(program)},
+                QProcessEnvironment::systemEnvironment())
+            != 0)
             return {};
         QList<QByteArray> made;
         for (int i = 1; i <= texts.size(); ++i) {

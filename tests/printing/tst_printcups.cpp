@@ -5,7 +5,6 @@
 // dialog's Print is pressed with xdotool, and the files are read back with real readers.
 #include "tests/printing/printharness.h"
 
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -35,19 +34,16 @@ private slots:
         m_bob = std::make_unique<ThrowawayUser>('b', m_dir.path());
         QVERIFY(m_ann->uid && m_bob->uid && m_ann->makeFolder(m_ann->home + "/out", 0700));
 
-        // The spool root as scripts/install-printer.sh leaves it.
-        QVERIFY(
-            QDir().mkpath(path("spool")) && ::chmod(QFile::encodeName(path("spool")), 0711) == 0);
-        QVERIFY(writeFile(path("spool/folders.stamp"), QByteArray()));
+        QVERIFY(makeSpoolRoot(path("spool")));
         m_cups = std::make_unique<PrivateCups>(path("cups"), path("spool"));
         QVERIFY(QDir().mkpath(path("cups")));
         QVERIFY(m_cups->start(installed(BACKEND_DIR "/vellumio"),
             installed(DATA_DIR "/vellumio/vellumio-policy.conf")));
         QVERIFY(m_cups->addQueue(installed(DATA_DIR "/ppd/vellumio/vellumio.ppd")));
 
-        m_display = startDisplay(m_xvfb, *m_ann);
-        QVERIFY(!m_display.isEmpty());
-        m_session = m_ann->session(m_display, path("spool"));
+        const QString display = startDisplay(m_xvfb, *m_ann);
+        QVERIFY(!display.isEmpty());
+        m_session = m_ann->session(display, path("spool"));
         m_session.insert("CUPS_SERVER", m_cups->socket());
         // The installed agent, as the autostart entry starts it, finds the installed dialog.
         QVERIFY(QFile::exists(path("root" AUTOSTART_ENTRY)));
@@ -59,7 +55,8 @@ private slots:
     void print_data()
     {
         QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("document"); // "pdf": two pages, "txt": a line of text
+        QTest::addColumn<QStringList>("job"); // lp's options, then "pdf": two pages, "txt": a line
+                                              // of text, "ps": a PostScript page
         QTest::addColumn<QVariantMap>("settings"); // chosen before printing
         QTest::addColumn<QString>("file"); // the result in the output folder
         QTest::addColumn<QStringList>("reader"); // run on the result
@@ -68,23 +65,31 @@ private slots:
         using V = QVariantMap;
         using L = QStringList;
         // clang-format off
-        QTest::newRow("PDF as PDF with its title")    << "Quarterly" << "pdf"
+        QTest::newRow("PDF as PDF with its title")    << "Quarterly" << L{"pdf"}
             << V{{"format", "pdf"}, {"pdf_title", "Figures of the quarter"}}
             << "Quarterly.pdf"  << L{"pdfinfo"}         << L{"Pages:           2", "Title:           Figures of the quarter"};
-        QTest::newRow("PDF as one grey LZW TIFF")     << "Scan" << "pdf"
+        QTest::newRow("PDF as one grey LZW TIFF")     << "Scan" << L{"pdf"}
             << V{{"format", "tif"}, {"multipage_tiff", "true"}, {"image_color", "24g"}, {"format_ext", "LZW"}}
             << "Scan.tif"       << L{"tiffinfo"}        << L{"Compression Scheme: LZW", "Bits/Sample: 8", "multi-page document", "Image Width: 2479"};
-        QTest::newRow("text as monochrome PNG")       << "notes.txt" << "txt"
+        QTest::newRow("text as monochrome PNG")       << "notes.txt" << L{"txt"}
             << V{{"format", "png"}, {"image_color", "1"}}
             << "notes.png"      << L{"file", "-b"}      << L{"PNG image data, 2479 x 3508, 1-bit"};
-        QTest::newRow("PDF as JPEG at quality 40")    << "Photo" << "pdf"
+        QTest::newRow("PDF as JPEG at quality 40")    << "Photo" << L{"pdf"}
             << V{{"format", "jpg"}, {"image_color", "24"}, {"q_jpg", 40}}
             << "Photo.jpg"      << L{"file", "-b"}      << L{"JPEG image data", "2479x3508"};
-        QTest::newRow("text as RTF")                  << "letter.txt" << "txt"
+        QTest::newRow("text as RTF")                  << "letter.txt" << L{"txt"}
             << V{{"format", "rtf"}}
             << "letter.rtf"     << L{"file", "-b"}      << L{"Rich Text Format"};
+        // PostScript reaches the backend as it is; the agent converts it.
+        QTest::newRow("PostScript as PDF")            << "Memo" << L{"ps"}
+            << V{{"format", "pdf"}}
+            << "Memo.pdf"       << L{"pdfinfo"}         << L{"Pages:           1", "Producer:        GPL Ghostscript"};
+        // A page range: the backend has CUPS's pdftopdf lay out the pages.
+        QTest::newRow("second page only, as PDF")     << "Second" << L{"-P", "2", "pdf"}
+            << V{{"format", "pdf"}}
+            << "Second.pdf"     << L{"pdfinfo"}         << L{"Pages:           1"};
         // Only a file name is asked; Return takes the one offered.
-        QTest::newRow("save-as-only mode")            << "Receipt" << "txt"
+        QTest::newRow("save-as-only mode")            << "Receipt" << L{"txt"}
             << V{{"format", "pdf"}, {"chDialog_SaveAs", "true"}}
             << "Receipt.pdf"    << L{"pdfinfo"}         << L{"Pages:           1"};
         // clang-format on
@@ -92,30 +97,32 @@ private slots:
     void print()
     {
         QFETCH(QString, title);
-        QFETCH(QString, document);
+        QFETCH(QStringList, job);
         QFETCH(QVariantMap, settings);
         QFETCH(QString, file);
         QFETCH(QStringList, reader);
         QFETCH(QStringList, says);
         const bool saveAsOnly = settings.contains("chDialog_SaveAs");
-        writeSettings(settings);
-        QByteArray said;
-        QCOMPARE(lp({"-t", title, input(document)}, &said), 0);
+        settings.insert("path", m_ann->home + "/out/");
+        QFile::remove(m_ann->settingsFile());
+        m_ann->writeSettings(settings);
+        job.last() = input(job.last());
+        QCOMPARE(lp(QStringList {"-t", title} + job, nullptr), 0);
         // The dialog of this job, and Return for Print.
-        QByteArray window;
+        const QString name = saveAsOnly ? "^Save File As" : "^Vellumio$";
+        QByteArray found;
         QCOMPARE(runAs(nullptr, "timeout",
-                     {"30", "xdotool", "search", "--sync", "--onlyvisible", "--name",
-                         saveAsOnly ? "^Save File As" : "^Vellumio$"},
-                     display(), &window),
+                     {"30", "xdotool", "search", "--sync", "--onlyvisible", "--name", name},
+                     m_session, &found),
             0);
-        QCOMPARE(runAs(nullptr, "xdotool",
-                     {"windowfocus", "--sync", QString::fromUtf8(window.split('\n').first()), "key",
-                         "Return"},
-                     display()),
+        const QString window = QString::fromUtf8(found.split('\n').first());
+        QCOMPARE(runAs(nullptr, "xdotool", {"windowfocus", "--sync", window, "key", "Return"},
+                     m_session),
             0);
         const QString result = m_ann->home + "/out/" + file;
         QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(result), 60000);
-        QTRY_VERIFY_WITH_TIMEOUT(spooledJobs().isEmpty(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(
+            entries(path("spool/") + QString::number(m_ann->uid)).isEmpty(), 10000);
         QByteArray read;
         QCOMPARE(runAs(nullptr, reader.first(), reader.mid(1) << result, m_session, &read), 0);
         for (const QString &part : says)
@@ -143,7 +150,6 @@ private slots:
 
         // clang-format off
         QTest::newRow("installed backend") << installed(BACKEND_DIR "/vellumio") << false << 0700u;
-        QTest::newRow("spool root")        << path("spool")                      << false << 0711u;
         QTest::newRow("user's spool")      << path("spool/") + QString::number(m_ann->uid) << true << 0700u;
         QTest::newRow("settings, saved")   << m_ann->settingsFile()              << true  << 0600u;
         // clang-format on
@@ -178,12 +184,6 @@ private:
     {
         return path("root" INSTALL_PREFIX "/") + relative;
     }
-    QProcessEnvironment display() const
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("DISPLAY", m_display);
-        return environment;
-    }
 
     // lp as the first user, through the scheduler's socket, where peer credentials say who it is.
     int lp(const QStringList &arguments, QByteArray *output)
@@ -199,6 +199,10 @@ private:
         if (!QFileInfo::exists(name)) {
             if (kind == "txt")
                 writeFile(name, "A line of plain text, printed from a terminal.\n");
+            else if (kind == "ps")
+                writeFile(name,
+                    "%!PS\n/Times-Roman findfont 20 scalefont setfont 72 700 moveto "
+                    "(A memo) show showpage\n");
             else
                 runAs(nullptr, "gs",
                     {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=pdfwrite", "-sPAPERSIZE=a4",
@@ -211,30 +215,10 @@ private:
         return name;
     }
 
-    void writeSettings(const QVariantMap &values)
-    {
-        QFile::remove(m_ann->settingsFile());
-        {
-            QSettings key(m_ann->settingsFile(), QSettings::IniFormat);
-            key.setValue("path", m_ann->home + "/out/");
-            for (auto it = values.begin(); it != values.end(); ++it)
-                key.setValue(it.key(), it.value());
-        }
-        ::chown(QFile::encodeName(m_ann->settingsFile()), m_ann->uid, m_ann->gid);
-        ::chmod(QFile::encodeName(m_ann->settingsFile()), 0600);
-    }
-
-    QStringList spooledJobs() const
-    {
-        return QDir(path("spool/") + QString::number(m_ann->uid))
-            .entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    }
-
     QTemporaryDir m_dir;
     std::unique_ptr<ThrowawayUser> m_ann, m_bob;
     std::unique_ptr<PrivateCups> m_cups;
     QProcess m_xvfb, m_agent;
-    QString m_display;
     QProcessEnvironment m_session;
     bool m_systemSpoolBefore = false;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The print path's rules without files or processes: hostile job titles, what the agent does after
-// the dialog, the order of jobs, and the job description the backend writes and the agent reads.
+// the dialog, the order of jobs, the job description the backend writes and the agent reads, and
+// the jobs whose pages the backend has CUPS lay out.
 // Users, folders and the dialog turned off are the agent suite's, run for real.
 #include "agent/jobrules.h"
 #include "backend/spooljob.h"
@@ -20,13 +21,8 @@ QByteArray bytes(const std::string &text)
     return QByteArray::fromStdString(text);
 }
 
-std::vector<std::string> toStd(const QStringList &list)
-{
-    std::vector<std::string> result;
-    for (const QString &word : list)
-        result.push_back(word.toStdString());
-    return result;
-}
+// Options with a '%', which the description escapes.
+const std::string options = "media=A4 job-name=%ZZ";
 
 } // namespace
 
@@ -133,69 +129,96 @@ private slots:
         QFETCH(QStringList, entries);
         QFETCH(QStringList, order);
         QStringList taken;
-        for (const std::string &name : Spool::pendingJobs(toStd(entries)))
+        std::vector<std::string> names;
+        for (const QString &entry : entries)
+            names.push_back(entry.toStdString());
+        for (const std::string &name : Spool::pendingJobs(names))
             taken += QString::fromStdString(name);
         QCOMPARE(taken, order);
     }
 
-    void jobInfo_data()
+    void layoutFilter_data()
     {
-        QTest::addColumn<QByteArray>("title");
+        QTest::addColumn<QString>("options"); // as the scheduler hands them to the backend
+        QTest::addColumn<QString>("type"); // the document the backend receives
+        QTest::addColumn<QString>("filter");
 
-        QTest::newRow("plain") << QByteArray("Quarterly report");
-        QTest::newRow("lines and escapes") << QByteArray("a\nb\r\n%41%\x1b\x7f=c");
-        QTest::newRow("NUL inside") << QByteArray("a\0b", 3);
-        QTest::newRow("not UTF-8") << QByteArray("\xff\xfe\xc3");
-        QTest::newRow("10,000 bytes") << QByteArray(10000, 'x');
-        QTest::newRow("empty") << QByteArray();
+        const QString pdf = "application/vnd.cups-pdf", ps = "application/postscript";
+        // What every job carries, and the layout options at their values that change nothing.
+        const QString usual
+            = "finishings=3 number-up=1 print-color-mode=color job-uuid=urn:uuid:49a2 "
+              "page-set=all outputorder=normal orientation-requested=3 nolandscape ";
+        // clang-format off
+        QTest::newRow("every job's options")       << usual                          << pdf << "";
+        QTest::newRow("page range")                << usual + "page-ranges=2-3"      << pdf << "pdftopdf";
+        QTest::newRow("two on a sheet, PostScript") << "number-up=2"                 << ps  << "pstops";
+        QTest::newRow("odd pages")                 << "page-set=odd"                 << pdf << "pdftopdf";
+        QTest::newRow("reversed")                  << "outputorder=reverse"          << pdf << "pdftopdf";
+        QTest::newRow("landscape")                 << "landscape"                    << pdf << "pdftopdf";
+        QTest::newRow("reverse landscape asked")   << "orientation-requested=5"      << ps  << "pstops";
+        QTest::newRow("fit to page")               << "fit-to-page=true"             << pdf << "pdftopdf";
+        QTest::newRow("mirrored")                  << "mirror"                       << pdf << "pdftopdf";
+        QTest::newRow("option inside a quoted value") << "job-name='x page-ranges=1' number-up=1" << pdf << "";
+        QTest::newRow("option after an escaped blank") << "job-name=x\\ page-ranges=1" << pdf << "";
+        QTest::newRow("quoted range")              << "page-ranges=\"1-2\""          << pdf << "pdftopdf";
+        QTest::newRow("no filter for the type")    << "page-ranges=1"                << "image/png" << "";
+        // clang-format on
     }
-    void jobInfo()
+    void layoutFilter()
     {
-        QFETCH(QByteArray, title);
-        Spool::Info info;
-        info.jobId = "42";
-        info.user = "ann";
-        info.title = title.toStdString();
-        info.copies = "2";
-        info.options = "media=A4 job-name=%ZZ";
-        info.time = 1700000000;
-        info.size = 12345;
-        const std::string text = Spool::formatInfo(info);
-        QCOMPARE(std::count(text.begin(), text.end(), '\n'), 8);
-        const std::optional<Spool::Info> read = Spool::parseInfo(text);
-        QVERIFY(read);
-        QCOMPARE(bytes(read->title), title);
-        QCOMPARE(bytes(read->options), bytes(info.options));
-        QCOMPARE(read->size, info.size);
-        QCOMPARE(bytes(read->jobId), bytes(info.jobId));
+        QFETCH(QString, options);
+        QFETCH(QString, type);
+        QFETCH(QString, filter);
+        QCOMPARE(
+            QString::fromStdString(Spool::layoutFilter(options.toStdString(), type.toStdString())),
+            filter);
     }
 
-    void damagedInfo_data()
+    // The description the backend writes, read back whole whatever the title; damaged ones not at
+    // all.
+    void description_data()
     {
         QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<bool>("parses");
+        QTest::addColumn<QByteArray>("title"); // read back; null when the text must not parse
 
-        const QByteArray whole = "vellumio-job 1\njob-id=4\nuser=ann\ntitle=t\ncopies=1\noptions=\n"
-                                 "time=5\nsize=6\n";
-        QTest::newRow("whole") << whole << true;
-        QTest::newRow("cut short") << whole.chopped(1) << false;
-        QTest::newRow("line missing") << QByteArray(whole).replace("copies=1\n", "") << false;
-        QTest::newRow("line twice") << whole + "size=7\n" << false;
-        QTest::newRow("bad escape") << QByteArray(whole).replace("title=t", "title=%G1") << false;
-        QTest::newRow("escape cut") << QByteArray(whole).replace("title=t", "title=%4") << false;
-        QTest::newRow("raw control") << QByteArray(whole).replace("title=t", "title=\x01") << false;
+        const std::pair<const char *, QByteArray> titles[] = {{"plain", "Quarterly report"},
+            {"lines and escapes", "a\nb\r\n%41%\x1b\x7f=c"}, {"NUL inside", QByteArray("a\0b", 3)},
+            {"not UTF-8", "\xff\xfe\xc3"}, {"10,000 bytes", QByteArray(10000, 'x')}, {"empty", ""}};
+        for (const auto &[name, title] : titles) {
+            Spool::Info info {"42", "ann", title.toStdString(), "2", options, 1700000000, 12345};
+            QTest::newRow(name) << bytes(Spool::formatInfo(info)) << title;
+        }
+        // Written by hand, so the reader is not only proven by its own writer.
+        const QByteArray whole = "vellumio-job 1\njob-id=42\nuser=ann\ntitle=t\ncopies=1\n"
+                                 "options=media=A4 job-name=%25ZZ\ntime=5\nsize=12345\n";
+        const QByteArray none;
+        QTest::newRow("whole by hand") << whole << QByteArray("t");
+        QTest::newRow("cut short") << whole.chopped(1) << none;
+        QTest::newRow("line missing") << QByteArray(whole).replace("copies=1\n", "") << none;
+        QTest::newRow("line twice") << whole + "size=7\n" << none;
+        QTest::newRow("bad escape") << QByteArray(whole).replace("title=t", "title=%G1") << none;
+        QTest::newRow("escape cut") << QByteArray(whole).replace("title=t", "title=%4") << none;
+        QTest::newRow("raw control") << QByteArray(whole).replace("title=t", "title=\x01") << none;
         QTest::newRow("other header")
-            << QByteArray(whole).replace("vellumio-job 1", "job 2") << false;
-        QTest::newRow("negative size") << QByteArray(whole).replace("size=6", "size=-6") << false;
+            << QByteArray(whole).replace("vellumio-job 1", "job 2") << none;
+        QTest::newRow("negative size") << QByteArray(whole).replace("size=1", "size=-1") << none;
         QTest::newRow("job id not a number")
-            << QByteArray(whole).replace("job-id=4", "job-id=../4") << false;
-        QTest::newRow("empty") << QByteArray() << false;
+            << QByteArray(whole).replace("job-id=42", "job-id=../4") << none;
+        QTest::newRow("empty") << QByteArray() << none;
     }
-    void damagedInfo()
+    void description()
     {
         QFETCH(QByteArray, text);
-        QFETCH(bool, parses);
-        QCOMPARE(Spool::parseInfo(text.toStdString()).has_value(), parses);
+        QFETCH(QByteArray, title);
+        const std::optional<Spool::Info> read = Spool::parseInfo(text.toStdString());
+        QCOMPARE(read.has_value(), !title.isNull());
+        if (!read)
+            return;
+        QCOMPARE(text.count('\n'), 8);
+        QCOMPARE(bytes(read->title), title);
+        QCOMPARE(bytes(read->options), bytes(options));
+        QCOMPARE(read->size, 12345);
+        QCOMPARE(bytes(read->jobId), QByteArray("42"));
     }
 };
 
