@@ -10,7 +10,6 @@
 #include <QApplication>
 #include <QGuiApplication>
 #include <QLibraryInfo>
-#include <QProcessEnvironment>
 #include <QScreen>
 #include <QTranslator>
 
@@ -93,18 +92,17 @@ QStringList shippedLanguages()
     return QStringLiteral(FMTASK_LANGUAGES).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
-QString userLanguage(const QProcessEnvironment &environment, const QStringList &shipped)
+QString userLanguage(const Environment &environment, const QStringList &shipped)
 {
     QString locale;
     for (const char *name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        locale = environment.value(QLatin1String(name));
+        locale = environment(name);
         if (!locale.isEmpty())
             break;
     }
     if (locale.isEmpty() || isPlainLocale(locale))
         return QString();
-    QStringList wanted
-        = environment.value(QStringLiteral("LANGUAGE")).split(QLatin1Char(':'), Qt::SkipEmptyParts);
+    QStringList wanted = environment("LANGUAGE").split(QLatin1Char(':'), Qt::SkipEmptyParts);
     if (wanted.isEmpty())
         wanted << locale;
     for (const QString &entry : std::as_const(wanted)) {
@@ -136,11 +134,9 @@ bool installTranslation(const QString &language)
     return true;
 }
 
-QByteArray preferredPlatform(const QProcessEnvironment &environment)
+QByteArray preferredPlatform(const Environment &environment)
 {
-    const auto isSet = [&environment](const char *name) {
-        return !environment.value(QLatin1String(name)).isEmpty();
-    };
+    const auto isSet = [&environment](const char *name) { return !environment(name).isEmpty(); };
     if (isSet("QT_QPA_PLATFORM") || !isSet("WAYLAND_DISPLAY") || !isSet("DISPLAY"))
         return QByteArray();
     return QByteArrayLiteral("xcb;wayland");
@@ -163,15 +159,11 @@ int run(int argc, char **argv)
     JobSettings &job = jobSettings();
     job.converterPath = converterPath(QString::fromLocal8Bit(argv[0]));
 
+    // Only the variables the start-up rules ask for are read, each when asked for.
+    const Environment environment = [](const char *name) { return qEnvironmentVariable(name); };
     // Driver contract: the one argument is the proposed file name and nothing else. Qt is given
     // only the program's path, so a name such as "-reverse" or "-stylesheet=x.qss" stays a name;
     // the platform, when the session calls for one, is the program's own choice.
-    QProcessEnvironment environment; // what the start-up rules read, and only that
-    for (const char *name : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG", "QT_QPA_PLATFORM",
-             "WAYLAND_DISPLAY", "DISPLAY"}) {
-        if (qEnvironmentVariableIsSet(name))
-            environment.insert(QLatin1String(name), qEnvironmentVariable(name));
-    }
     QByteArray platform = preferredPlatform(environment);
     char platformOption[] = "-platform";
     char *qtArgv[] = {argv[0], platformOption, platform.data(), nullptr};

@@ -6,13 +6,17 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class MainWindow;
-class QProcessEnvironment;
 class QWidget;
 
 // How one print job runs: the command line, the main dialog or the save-as-only mode, and the
 // exit status the driver waits for (always 0).
 namespace RunProtocol {
+
+// The value of an environment variable as the start-up rules read it; an unset one is empty.
+using Environment = std::function<QString(const char *name)>;
 
 // The program's own name and the DjVu converter's, with the platform's executable suffix.
 QString programFileName();
@@ -34,7 +38,7 @@ QStringList shippedLanguages();
 // locale is LC_ALL, else LC_MESSAGES, else LANG; unless that locale is C or POSIX, the
 // colon-separated list in LANGUAGE takes its place. The first entry that is English or has a
 // translation wins ("de_AT" finds "de"); no winner, or the C locale, means English (empty).
-QString userLanguage(const QProcessEnvironment &environment, const QStringList &shipped);
+QString userLanguage(const Environment &environment, const QStringList &shipped);
 
 // Installs the program's translation of a shipped language, and Qt's own for the standard
 // buttons and dialogs where the system has it. False when the program has no such translation.
@@ -44,7 +48,7 @@ bool installTranslation(const QString &language);
 // may keep a native window behind the printing application, so when X11 is at hand as well
 // (DISPLAY and WAYLAND_DISPLAY both set) and the user chose no platform (QT_QPA_PLATFORM), the
 // dialog runs through XWayland, with Wayland as the fallback.
-QByteArray preferredPlatform(const QProcessEnvironment &environment);
+QByteArray preferredPlatform(const Environment &environment);
 
 // One start step: shows the main dialog topmost, or runs the save-as-only dialog. False means
 // "ask again".

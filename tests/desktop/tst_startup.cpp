@@ -6,20 +6,22 @@
 #include <QApplication>
 #include <QFile>
 #include <QLibraryInfo>
-#include <QProcessEnvironment>
 #include <QTest>
 #include <QTranslator>
 
 namespace {
 
 // An environment with only the given variables; "NAME=value" each.
-QProcessEnvironment environmentOf(const QStringList &variables)
+RunProtocol::Environment environmentOf(const QStringList &variables)
 {
-    QProcessEnvironment environment;
-    for (const QString &variable : variables)
-        environment.insert(
-            variable.section(QLatin1Char('='), 0, 0), variable.section(QLatin1Char('='), 1));
-    return environment;
+    return [variables](const char *name) {
+        const QString prefix = QLatin1String(name) + QLatin1Char('=');
+        for (const QString &variable : variables) {
+            if (variable.startsWith(prefix))
+                return variable.mid(prefix.size());
+        }
+        return QString();
+    };
 }
 
 // The translators installed for a language, removed (and deleted) at the end of a test.
