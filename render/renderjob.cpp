@@ -13,6 +13,8 @@
 #include <QProcess>
 #include <QThread>
 
+#include <optional>
+
 namespace Render {
 
 namespace {
@@ -90,10 +92,12 @@ Result renderJob(const Options &given, const QString &job, Existing existing, in
 
     // PostScript is made PDF first, by the converter given (perhaps started ahead) or one of its
     // own; the PDF is then rendered as any job's.
-    PostScriptConverter own;
+    std::optional<PostScriptConverter> own;
     QString jobPdf = job;
     if (isPostScript(job)) {
-        const Result converted = (converter ? *converter : own).convert(job, &jobPdf, stop);
+        if (!converter)
+            converter = &own.emplace();
+        const Result converted = converter->convert(job, &jobPdf, stop);
         if (!converted.ok())
             return converted;
     }

@@ -3,6 +3,7 @@
 // agent pick-up, start of fmtask) beside the time CUPS's scheduler and filters take, on a private
 // scheduler with a throwaway user's desktop on Xvfb; then the agent idle: CPU and resident memory.
 // Run as root: BUILD/bench/printing/print_bench [--rounds N]   (21 by default)
+#include "bench/printing/printingbench.h"
 #include "tests/printing/printharness.h"
 
 #include <QCoreApplication>
@@ -17,17 +18,9 @@
 #include <sys/inotify.h>
 
 using namespace PrintHarness;
+using PrintingBench::median;
 
 namespace {
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    const size_t middle = values.size() / 2;
-    return values.empty()   ? 0
-        : values.size() % 2 ? values[middle]
-                            : (values[middle - 1] + values[middle]) / 2;
-}
 
 double milliseconds(const QElapsedTimer &clock)
 {
@@ -79,11 +72,9 @@ int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     const int rounds
-        = argc > 2 && QByteArray(argv[1]) == "--rounds" ? std::max(1, atoi(argv[2])) : 21;
-    if (::geteuid() != 0) {
-        std::fprintf(stderr, "Run as root: a private scheduler, a throwaway user and Xvfb.\n");
+        = PrintingBench::rounds(argc, argv, 21, "a private scheduler, a throwaway user and Xvfb");
+    if (rounds == 0)
         return 1;
-    }
     removeStaleUsers();
     QTemporaryDir dir;
     const auto path = [&dir](const QString &relative) { return dir.filePath(relative); };
