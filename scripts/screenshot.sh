@@ -83,6 +83,8 @@ INI
         "$build/fmtask" Document1 >/dev/null 2>&1 &
     program=$!
     window="$(DISPLAY=":$display" timeout 20 xdotool search --sync --onlyvisible --name '^Vellumio$' | head -n 1)"
+    # The pointer starts in the middle of the screen, over the tabs: moved away, no tab is hovered.
+    DISPLAY=":$display" xdotool mousemove 0 0
     sleep 1 # the first paint
     DISPLAY=":$display" import -window "$window" -strip -define png:exclude-chunks=date,time \
         "png:$out/$name"
