@@ -242,6 +242,8 @@ private slots:
         // Driver contract: switched on by an earlier load in the same run, the SWF animation and
         // the save-as-only mode stay on; an ordinary switch follows the key.
         row("one-sided switches", "swf_animate=true\nchDialog_SaveAs=true\nmultipage_tiff=true", "", {{"ch_swf_animate", "checked"}, {"saveAsOnly", "true"}, {"ch_multipage_tiff", "unchecked"}}, true, "swf_animate=false\nchDialog_SaveAs=false\nmultipage_tiff=false");
+        // Driver contract: the SWF protection is read only with a stored password.
+        row("SWF protection, no password", "b_protect_swf=true", "", {{"ch_swf_protect", "unchecked"}});
         row("quality not a number", "q_jpg=abc", "", {{"spb_q_jpg", "1"}});
         // The folder is joined to the proposed name as it is stored.
         row("folder without separator", "path=/out", "", {{"le_filename", "/outDocument1"}});
