@@ -9,8 +9,8 @@
 #include "settings/jobsettings.h"
 #include "style/compacttabs.h"
 
-#include <QApplication>
 #include <QFile>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
@@ -51,13 +51,15 @@ MainWindow::MainWindow(QWidget *parent)
     // Qt lays out a new line edit's text once in the application's font before it takes its own,
     // and the pages are built without a parent, in the application's font, before they join the
     // window. Built in another size, each would load that size of the font and lay out again when
-    // its page joins, and the colour list would build its pop-up list then.
-    const QFont applicationFont = QApplication::font();
+    // its page joins, and the colour list would build its pop-up list then. Only the font that
+    // new widgets start from changes: the widgets that exist and the fonts the desktop gives to
+    // kinds of widgets (menus, tool tips) are left alone.
+    const QFont applicationFont = QGuiApplication::font();
     QFont formFont = applicationFont;
     formFont.setPointSize(formPointSize);
-    QApplication::setFont(formFont);
+    QGuiApplication::setFont(formFont);
     ui->setupUi(this);
-    QApplication::setFont(applicationFont);
+    QGuiApplication::setFont(applicationFont);
 
     connect(ui->pb_filename, &QToolButton::clicked, this, &MainWindow::pb_filename);
     connect(ui->pb_print, &QPushButton::clicked, this, &MainWindow::pb_print);
