@@ -2,6 +2,9 @@
 // From `lp` returning to the dialog on screen: the share of the project's own code (backend run,
 // agent pick-up, start of fmtask) beside the time CUPS's scheduler and filters take, on a private
 // scheduler with a throwaway user's desktop on Xvfb; then the agent idle: CPU and resident memory.
+// The start of fmtask is told apart from the toolkit's: a Qt window that shows one label, started
+// the same way in the same session, is the floor every Qt program with text pays; what fmtask
+// takes beyond it is the project's.
 // Run as root: BUILD/bench/printing/print_bench [--rounds N]   (21 by default)
 #include "bench/printing/printingbench.h"
 #include "tests/printing/printharness.h"
@@ -189,17 +192,19 @@ int main(int argc, char *argv[])
         backendRuns.push_back(milliseconds(clock) - before);
     }
 
-    // For scale on this machine now: the program alone, and a bare Qt window, started the same way.
-    std::vector<double> aloneStarts, bareStarts;
+    // The toolkit's floor on this machine now: fmtask and a window with one label, started alone
+    // the same way, one after the other; the difference of each pair is fmtask's own start.
+    std::vector<double> aloneStarts, labelStarts, ownStarts;
     for (int round = 0; round < rounds; ++round) {
         for (auto [program, times] :
-            {std::pair {FMTASK_PROBE, &aloneStarts}, std::pair {BARE_PROBE, &bareStarts}}) {
+            {std::pair {FMTASK_PROBE, &aloneStarts}, std::pair {LABEL_PROBE, &labelStarts}}) {
             QProcess probe;
             const double before = milliseconds(clock);
             startAs(probe, &user, QString::fromUtf8(program), {QStringLiteral("Round")}, session);
             waitFor([&] { return probe.state() == QProcess::NotRunning; }, 30000);
             times->push_back(milliseconds(clock) - before);
         }
+        ownStarts.push_back(aloneStarts.back() - labelStarts.back());
     }
 
     // Idle: no job for ten seconds.
@@ -211,7 +216,9 @@ int main(int argc, char *argv[])
         = double(after.ticks - before.ticks) / double(::sysconf(_SC_CLK_TCK)) / 10.0 * 100.0;
 
     const double backend = median(backendRuns), cupsOwn = median(cupsTimes) - backend;
-    const double own = backend + median(pickUps) + median(dialogStarts);
+    // Negative when fmtask happened to start faster than the label window: it then adds nothing.
+    const double ownStart = median(ownStarts);
+    const double own = backend + median(pickUps) + std::max(0.0, ownStart);
     QFile load(QStringLiteral("/proc/loadavg"));
     load.open(QIODevice::ReadOnly);
     std::printf(
@@ -224,11 +231,15 @@ int main(int argc, char *argv[])
     std::printf("| Backend run (alone, same document) | %.1f ms |\n", backend);
     std::printf("| Agent pick-up (job spooled to fmtask started) | %.1f ms |\n", median(pickUps));
     std::printf("| fmtask start (started to dialog exposed) | %.1f ms |\n", median(dialogStarts));
-    std::printf("| **Project's own share** (target < 100 ms) | **%.1f ms** (%s) |\n", own,
-        own < 100 ? "met" : "missed");
-    std::printf("| For scale: fmtask started alone / a bare Qt window started alone | %.1f ms / "
-                "%.1f ms |\n",
-        median(aloneStarts), median(bareStarts));
+    std::printf("| Qt's floor: a window with one label started alone the same way | %.1f ms |\n",
+        median(labelStarts));
+    std::printf(
+        "| fmtask's own start: fmtask alone less the label window, paired | %.1f ms |\n", ownStart);
+    std::printf("| **Project's own share**: backend, pick-up, fmtask's own start (target < 100 ms) "
+                "| **%.1f ms** (%s) |\n",
+        own, own < 100 ? "met" : "missed");
+    std::printf("| Whole path, lp returned to dialog exposed | %.1f ms |\n",
+        median(cupsTimes) + median(pickUps) + median(dialogStarts));
     std::printf("| Agent idle CPU over 10 s | %.2f %% |\n", idleCpu);
     std::printf("| Agent resident memory idle / peak (target < 20 MiB) | %.1f MiB / %.1f MiB |\n",
         double(after.residentKiB) / 1024, double(after.peakKiB) / 1024);
