@@ -8,19 +8,19 @@ namespace {
 
 // clang-format off
 const std::array<Format, Count> formatTable = {{
-    // index     tab      page      heading                       token    extension    default  filter label
-    {Bmp,      "BMP",  "tab",    "Print As BMP",               "bmp",   "ext_bmp",   "bmp",   "BMP Format (*."},
-    {Png,      "PNG",  "tab_3",  "Print As PNG",               "png",   "ext_png",   "png",   "PNG Format (*."},
-    {Jpeg,     "JPEG", "tab_4",  "Print As JPEG",              "jpg",   "ext_jpg",   "jpg",   "JPEG Format (*."},
-    {Jpeg2000, "JP2",  "tab_9",  "Print As JPEG2000",          "jp2",   "ext_jp2",   "jp2",   "JPEG2000 Format (*."},
-    {Tiff,     "TIFF", "tab_6",  "Print As TIFF",              "tif",   "ext_tif",   "tif",   "TIFF Format (*."},
-    {Gif,      "GIF",  "tab_5",  "Print As GIF",               "gif",   "ext_gif",   "gif",   "GIF Format (*."},
-    {Swf,      "SWF",  "tab_2",  "Print As SWF",               "swf",   "ext_swf",   "swf",   "SWF Format (*."},
-    {Pdf,      "PDF",  "tab_7",  "Print As PDF",               "pdf",   "ext_pdf",   "pdf",   "PDF Format (*."},
-    {Rtf,      "RTF",  "tab_8",  "Print As RTF",               "rtf",   "ext_rtf",   "rtf",   "RTF Format (*."},
-    {Excel,    "XLS",  "tab_12", "Print As MS Office  Excel",  "msxml", "ext_msxml", "xls",   "MS Excel Format (*."},
-    {Html,     "HTML", "tab_11", "Print As HTML",              "htm",   "ext_htm",   "html",  "HTML Format (*."},
-    {Djvu,     "DjVu", "tab_10", "Print As DjVu",              "djvu",  "ext_djvu",  "djvu",  "DjVu Format (*."},
+    // index     tab      page      token    default  filter label
+    {Bmp,      "BMP",  "tab",    "bmp",   "bmp",   "BMP Format (*."},
+    {Png,      "PNG",  "tab_3",  "png",   "png",   "PNG Format (*."},
+    {Jpeg,     "JPEG", "tab_4",  "jpg",   "jpg",   "JPEG Format (*."},
+    {Jpeg2000, "JP2",  "tab_9",  "jp2",   "jp2",   "JPEG2000 Format (*."},
+    {Tiff,     "TIFF", "tab_6",  "tif",   "tif",   "TIFF Format (*."},
+    {Gif,      "GIF",  "tab_5",  "gif",   "gif",   "GIF Format (*."},
+    {Swf,      "SWF",  "tab_2",  "swf",   "swf",   "SWF Format (*."},
+    {Pdf,      "PDF",  "tab_7",  "pdf",   "pdf",   "PDF Format (*."},
+    {Rtf,      "RTF",  "tab_8",  "rtf",   "rtf",   "RTF Format (*."},
+    {Excel,    "XLS",  "tab_12", "msxml", "xls",   "MS Excel Format (*."},
+    {Html,     "HTML", "tab_11", "htm",   "html",  "HTML Format (*."},
+    {Djvu,     "DjVu", "tab_10", "djvu",  "djvu",  "DjVu Format (*."},
 }};
 
 const std::array<ColorMode, 4> colorModeTable = {{

@@ -32,9 +32,7 @@ struct Format
     Index index;
     const char *tabText; // text of the tab, translated in the main window's context
     const char *page; // object name of the tab page
-    const char *heading; // bold heading label of the page
     const char *token; // stored in the value "format"
-    const char *extensionKey; // settings value that holds the file extension
     const char *defaultExtension; // its default, without the dot
     const char *filterLabel; // file-dialog filter, completed by extension and ")"
 };
