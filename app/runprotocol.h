@@ -2,11 +2,11 @@
 #ifndef FMTASK_RUNPROTOCOL_H
 #define FMTASK_RUNPROTOCOL_H
 
+#include "locale/language.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
-
-#include <functional>
 
 class MainWindow;
 class QWidget;
@@ -16,7 +16,7 @@ class QWidget;
 namespace RunProtocol {
 
 // The value of an environment variable as the start-up rules read it; an unset one is empty.
-using Environment = std::function<QString(const char *name)>;
+using Environment = Language::Environment;
 
 // The program's own name and the DjVu converter's, with the platform's executable suffix.
 QString programFileName();
@@ -30,15 +30,9 @@ QString converterPath(const QString &programPath);
 // Moves a window to the centre of the primary screen by the frame-geometry rule.
 void centreOnScreen(QWidget *window);
 
-// The languages the program's texts are translated into, named as their translations are ("de",
-// "pt_BR", ...). The texts themselves are written in English.
-QStringList shippedLanguages();
-
-// The language of the user's messages among `shipped`, by the rules desktop programs share: the
-// locale is LC_ALL, else LC_MESSAGES, else LANG; unless that locale is C or POSIX, the
-// colon-separated list in LANGUAGE takes its place. The first entry that is English or has a
-// translation wins ("de_AT" finds "de"); no winner, or the C locale, means English (empty).
-QString userLanguage(const Environment &environment, const QStringList &shipped);
+// The shipped languages and the user's one among them, by the rules the printer's programs share.
+using Language::shippedLanguages;
+using Language::userLanguage;
 
 // Installs the program's translation of a shipped language, and Qt's own for the standard
 // buttons and dialogs where the system has it. False when the program has no such translation.
