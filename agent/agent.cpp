@@ -19,11 +19,6 @@ namespace {
 // A job whose rendering was cut short this often (the agent died in it) is kept aside.
 constexpr int maxRenderAttempts = 2;
 
-QString quoted(const QString &title)
-{
-    return QLatin1Char('"') + title + QLatin1Char('"');
-}
-
 // The key the dialog reads its options from: the all-users key when the machine key says so.
 SettingsScope optionsScope()
 {
@@ -80,7 +75,7 @@ bool Agent::start()
     QString why;
     const SpoolFolder::State state = m_spool.check(&why);
     if (state == SpoolFolder::State::Foreign || state == SpoolFolder::State::NoRoot) {
-        m_notifier.tell(QStringLiteral("Vellumio cannot take print jobs"), why);
+        m_notifier.tell(tr("Vellumio cannot take print jobs"), why);
         return false;
     }
     if (state == SpoolFolder::State::Own)
@@ -113,19 +108,19 @@ void Agent::scan()
         if (m_once)
             return stop(0);
         if (!watch(m_spool.stamp())) {
-            m_notifier.tell(QStringLiteral("Vellumio cannot wait for print jobs"),
-                m_spool.stamp() + QStringLiteral(" is missing: install the printer again"));
+            m_notifier.tell(tr("Vellumio cannot wait for print jobs"),
+                tr("%1 is missing: install the printer again").arg(m_spool.stamp()));
             return stop(1);
         }
         return;
     case SpoolFolder::State::NoRoot:
     case SpoolFolder::State::Foreign:
-        m_notifier.tell(QStringLiteral("Vellumio stopped taking print jobs"), why);
+        m_notifier.tell(tr("Vellumio stopped taking print jobs"), why);
         return stop(1);
     }
     if (!watch(m_spool.path()) && !m_once) {
-        m_notifier.tell(QStringLiteral("Vellumio stopped taking print jobs"),
-            QStringLiteral("the spool folder cannot be watched: ") + m_spool.path());
+        m_notifier.tell(tr("Vellumio stopped taking print jobs"),
+            tr("the spool folder cannot be watched: %1").arg(m_spool.path()));
         return stop(1);
     }
     const QStringList jobs = m_spool.pendingJobs();
@@ -171,9 +166,9 @@ void Agent::showDialog()
     SettingsKey(SettingsScope::User).setFlag(Settings::IsAbort, true);
     m_markedKey = keyStamp();
     if (m_markedKey == before)
-        return failJob(QStringLiteral("the settings file ")
-            + SettingsKey::fileName(SettingsScope::User)
-            + QStringLiteral(" cannot be written, so the dialog's choices would be lost"));
+        return failJob(
+            tr("the settings file %1 cannot be written, so the dialog's choices would be lost")
+                .arg(SettingsKey::fileName(SettingsScope::User)));
     m_dialog.start(m_programs.dialog, {m_fileName});
 }
 
@@ -193,19 +188,19 @@ void Agent::dialogFinished(bool started, bool exitedNormally)
     case JobRules::AfterDialog::Cancelled:
         return finishJob();
     case JobRules::AfterDialog::EndedAbnormally:
-        m_notifier.tell(QStringLiteral("Vellumio did not print ") + quoted(m_fileName),
-            QStringLiteral("The print dialog ended unexpectedly, so the job was cancelled."));
+        m_notifier.tell(tr("Vellumio did not print \"%1\"").arg(m_fileName),
+            tr("The print dialog ended unexpectedly, so the job was cancelled."));
         return finishJob();
     case JobRules::AfterDialog::NotStarted:
-        return failJob(QStringLiteral("the print dialog ") + m_programs.dialog
-            + QStringLiteral(" cannot be started: ") + m_dialog.errorString());
+        return failJob(tr("the print dialog %1 cannot be started: %2")
+                           .arg(m_programs.dialog, m_dialog.errorString()));
     }
 }
 
 void Agent::render(Render::Existing existing, const QString &name)
 {
     if (m_spool.markRenderAttempt(m_jobName) >= maxRenderAttempts)
-        return failJob(QStringLiteral("rendering was interrupted twice"));
+        return failJob(tr("rendering was interrupted twice"));
     const bool postScript = Render::isPostScript(m_job->document);
     const Render::Result result = Render::renderJob(
         m_job->document, name, existing, postScript ? m_converter.get() : nullptr);
@@ -230,10 +225,9 @@ void Agent::openResult(const QString &file) const
 {
     const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
     if (opener.isEmpty() || !QProcess::startDetached(opener, {file}))
-        m_notifier.tell(QStringLiteral("Vellumio printed ") + quoted(m_fileName),
-            QStringLiteral("The result is ") + file
-                + QStringLiteral(
-                    "; it cannot be opened, as xdg-open (package xdg-utils) is missing."));
+        m_notifier.tell(tr("Vellumio printed \"%1\"").arg(m_fileName),
+            tr("The result is %1; it cannot be opened, as %2 (package %3) is missing.")
+                .arg(file, QLatin1String("xdg-open"), QLatin1String("xdg-utils")));
 }
 
 void Agent::finishJob()
@@ -242,9 +236,8 @@ void Agent::finishJob()
     m_job.reset();
     // A job that stays in the queue would be shown again and again: set it aside at least.
     if (!m_spool.remove(name) && !m_spool.moveAside(name)) {
-        m_notifier.tell(QStringLiteral("Vellumio stopped taking print jobs"),
-            QStringLiteral("The finished job ") + name + QStringLiteral(" cannot be removed from ")
-                + m_spool.path());
+        m_notifier.tell(tr("Vellumio stopped taking print jobs"),
+            tr("The finished job %1 cannot be removed from %2").arg(name, m_spool.path()));
         return stop(1);
     }
     scheduleScan();
@@ -255,11 +248,10 @@ void Agent::failJob(const QString &why)
     const QString name = m_jobName;
     m_job.reset();
     const bool kept = m_spool.moveAside(name);
-    m_notifier.tell(QStringLiteral("Vellumio could not print ") + quoted(m_fileName),
-        why
-            + (kept ? QStringLiteral(
-                   ". The job is kept: \"vellumio-agent --retry\" prints it again.")
-                    : QStringLiteral(". The job cannot be kept and is dropped.")));
+    m_notifier.tell(tr("Vellumio could not print \"%1\"").arg(m_fileName),
+        kept ? tr("%1. The job is kept: \"%2\" prints it again.")
+                   .arg(why, QStringLiteral("vellumio-agent --retry"))
+             : tr("%1. The job cannot be kept and is dropped.").arg(why));
     if (!kept && !m_spool.remove(name))
         return stop(1);
     scheduleScan();

@@ -58,15 +58,15 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(QStringLiteral("vellumio-agent"));
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Shows the Vellumio dialog for each of your print jobs and renders them."));
+        Agent::tr("Shows the Vellumio dialog for each of your print jobs and renders them."));
     parser.addHelpOption();
     const QCommandLineOption once(
-        QStringLiteral("once"), QStringLiteral("Process the jobs waiting now, then exit."));
+        QStringLiteral("once"), Agent::tr("Process the jobs waiting now, then exit."));
     const QCommandLineOption retry(
-        QStringLiteral("retry"), QStringLiteral("Put the jobs that failed back into the queue."));
+        QStringLiteral("retry"), Agent::tr("Put the jobs that failed back into the queue."));
     const QCommandLineOption showDialog(QStringLiteral("show-dialog"),
-        QStringLiteral("Show the dialog again for the next jobs (after \"Show this dialog next "
-                       "time\" was unticked)."));
+        Agent::tr("Show the dialog again for the next jobs (after \"Show this dialog next time\" "
+                  "was unticked)."));
     parser.addOptions({once, retry, showDialog});
     parser.process(application);
 
@@ -74,7 +74,7 @@ int main(int argc, char *argv[])
         QFile::decodeName(Spool::rootFolder(std::getenv(Spool::rootVariable)).c_str()), ::getuid());
     if (parser.isSet(showDialog)) {
         SettingsKey(SettingsScope::User).setText(Settings::ChDialog, QStringLiteral("true"));
-        say(QStringLiteral("the dialog is shown again for the next print jobs"));
+        say(Agent::tr("the dialog is shown again for the next print jobs"));
         return Done;
     }
     QString why;
@@ -85,16 +85,17 @@ int main(int argc, char *argv[])
     }
     if (parser.isSet(retry)) {
         const int moved = state == SpoolFolder::State::Own ? spool.retryFailed() : 0;
-        say(QString::number(moved) + QStringLiteral(" failed job(s) back in the queue"));
+        say(Agent::tr("failed jobs back in the queue: %1").arg(moved));
         return Done;
     }
     if (!lockForUser()) {
-        say(QStringLiteral("another vellumio-agent already serves this user"));
+        say(Agent::tr("another %1 already serves this user")
+                .arg(QCoreApplication::applicationName()));
         return AlreadyRunning;
     }
     if (!hasDesktop()) {
-        say(QStringLiteral(
-            "no desktop session (DISPLAY or WAYLAND_DISPLAY) to show the dialog in"));
+        say(Agent::tr("no desktop session (%1 or %2) to show the dialog in")
+                .arg(QLatin1String("DISPLAY"), QLatin1String("WAYLAND_DISPLAY")));
         return Refused;
     }
 

@@ -49,6 +49,6 @@ void Notifier::showMessageBox(const QString &summary, const QString &body) const
     box.setProcessEnvironment(environment);
     box.setProgram(m_messageProgram);
     if (!box.startDetached())
-        std::fprintf(stderr, "vellumio-agent: no notification service and no %s\n",
-            qUtf8Printable(m_messageProgram));
+        std::fprintf(stderr, "vellumio-agent: %s\n",
+            qUtf8Printable(tr("no notification service and no %1").arg(m_messageProgram)));
 }

@@ -2,6 +2,7 @@
 #ifndef VELLUMIO_NOTIFIER_H
 #define VELLUMIO_NOTIFIER_H
 
+#include <QCoreApplication>
 #include <QString>
 
 // Tells the user what became of a job: a desktop notification through
@@ -9,6 +10,8 @@
 // small program of its own. Every message also goes to the agent's standard error.
 class Notifier
 {
+    Q_DECLARE_TR_FUNCTIONS(Notifier)
+
 public:
     explicit Notifier(const QString &messageProgram);
 

@@ -64,18 +64,18 @@ SpoolFolder::State SpoolFolder::check(QString *why) const
     };
     struct stat info;
     if (::lstat(QFile::encodeName(m_root).constData(), &info) != 0) {
-        say(QStringLiteral("the printer is not installed: there is no spool folder ") + m_root);
+        say(tr("the printer is not installed: there is no spool folder %1").arg(m_root));
         return State::NoRoot;
     }
     if (!S_ISDIR(info.st_mode) || info.st_uid != 0 || (info.st_mode & (S_IWGRP | S_IWOTH))) {
-        say(QStringLiteral("the spool folder ") + m_root
-            + QStringLiteral(" is not a folder of root closed to others"));
+        say(tr("the spool folder %1 is not a folder of root closed to others").arg(m_root));
         return State::Foreign;
     }
     if (::lstat(QFile::encodeName(m_path).constData(), &info) != 0)
         return State::Missing;
     if (!S_ISDIR(info.st_mode) || info.st_uid != m_uid || (info.st_mode & 07777) != 0700) {
-        say(m_path + QStringLiteral(" is not this user's own folder with mode 0700"));
+        say(tr("%1 is not this user's own folder with mode %2")
+                .arg(m_path, QStringLiteral("0700")));
         return State::Foreign;
     }
     return State::Own;
@@ -103,19 +103,19 @@ std::optional<SpoolFolder::Job> SpoolFolder::readJob(const QString &name, QStrin
     struct stat info;
     if (::lstat(QFile::encodeName(folder).constData(), &info) != 0 || !S_ISDIR(info.st_mode)
         || info.st_uid != m_uid)
-        return damaged(QStringLiteral("the job's folder is missing or not the user's own"));
+        return damaged(tr("the job's folder is missing or not the user's own"));
     const std::optional<QByteArray> text
         = readPlainFile(folder + QLatin1Char('/') + QLatin1String(Spool::infoFile), maxInfoBytes);
     const std::optional<Spool::Info> description
         = text ? Spool::parseInfo(text->toStdString()) : std::nullopt;
     if (!description)
-        return damaged(QStringLiteral("the job's description is missing or damaged"));
+        return damaged(tr("the job's description is missing or damaged"));
     Job job {name, folder + QLatin1Char('/') + QLatin1String(Spool::documentFile), *description};
     if (::lstat(QFile::encodeName(job.document).constData(), &info) != 0 || !S_ISREG(info.st_mode)
         || info.st_uid != m_uid)
-        return damaged(QStringLiteral("the job's document is missing"));
+        return damaged(tr("the job's document is missing"));
     if (info.st_size != description->size)
-        return damaged(QStringLiteral("the job's document is incomplete"));
+        return damaged(tr("the job's document is incomplete"));
     return job;
 }
 

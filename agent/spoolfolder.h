@@ -4,6 +4,7 @@
 
 #include "backend/spooljob.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -15,6 +16,8 @@
 // first, finished jobs removed, failed ones kept aside. Only the agent's own user is served.
 class SpoolFolder
 {
+    Q_DECLARE_TR_FUNCTIONS(SpoolFolder)
+
 public:
     SpoolFolder(const QString &root, uid_t uid);
 

@@ -7,6 +7,7 @@
 #include "writers/swfwriter.h"
 #include "writers/textdocuments.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QFile>
 
@@ -133,7 +134,7 @@ QString writeSwf(const Write &write, const QDir &work, const std::atomic<bool> *
     for (int i = 0; i < write.inputs.size(); ++i) {
         const QSize size = pageSize(work.filePath(write.inputs.at(i)), &error);
         if (size.isEmpty())
-            return QStringLiteral("page %1: %2").arg(i + 1).arg(error);
+            return QCoreApplication::translate("Render", "page %1: %2").arg(i + 1).arg(error);
         largest = largest.expandedTo(size);
     }
 
@@ -259,7 +260,8 @@ QString perform(const Write &write, const QDir &work, const std::atomic<bool> *s
         break;
     }
     if (document.isEmpty())
-        return error.isEmpty() ? QStringLiteral("nothing was written") : error;
+        return error.isEmpty() ? QCoreApplication::translate("Render", "nothing was written")
+                               : error;
     return writeFile(work.filePath(write.output), document);
 }
 

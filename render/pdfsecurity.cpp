@@ -2,6 +2,7 @@
 // Passwords checked against 128-bit encryption and the qpdf job files that encrypt and date a PDF.
 #include "render/pdfsecurity.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -67,10 +68,12 @@ QString passwordProblem(const QString &password)
     const QList<uint> characters = password.toUcs4();
     for (uint ch : characters) {
         if (!inPdfDocEncoding(ch))
-            return QStringLiteral("the character %1 is not allowed").arg(describe(ch));
+            return QCoreApplication::translate("Render", "the character %1 is not allowed")
+                .arg(describe(ch));
     }
     if (characters.size() > maximumPasswordLength)
-        return QStringLiteral("it is longer than %1 characters").arg(maximumPasswordLength);
+        return QCoreApplication::translate("Render", "it is longer than %1 characters")
+            .arg(maximumPasswordLength);
     return {};
 }
 
@@ -78,15 +81,18 @@ QString refusal(const PdfSettings &pdf)
 {
     if (!pdf.protect)
         return {};
-    const std::pair<QString, QString> passwords[] = {
-        {QStringLiteral("user"), pdf.userPassword},
-        {QStringLiteral("owner"), pdf.ownerPassword},
+    const std::pair<const char *, QString> passwords[] = {
+        {QT_TRANSLATE_NOOP(
+             "Render", "The PDF user password cannot be used with 128-bit encryption: %1."),
+            pdf.userPassword},
+        {QT_TRANSLATE_NOOP(
+             "Render", "The PDF owner password cannot be used with 128-bit encryption: %1."),
+            pdf.ownerPassword},
     };
-    for (const auto &[which, password] : passwords) {
+    for (const auto &[message, password] : passwords) {
         const QString problem = passwordProblem(password);
         if (!problem.isEmpty())
-            return QStringLiteral("The PDF %1 password cannot be used with 128-bit encryption: %2.")
-                .arg(which, problem);
+            return QCoreApplication::translate("Render", message).arg(problem);
     }
     return {};
 }

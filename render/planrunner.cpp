@@ -6,6 +6,7 @@
 #include "render/filenames.h"
 #include "render/inprocesswrites.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -219,7 +220,8 @@ public:
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         if (!m_failed.load() && stopped())
-            return failure(Failure::ToolFailed, QStringLiteral("Rendering was stopped."));
+            return failure(Failure::ToolFailed,
+                QCoreApplication::translate("Render", "Rendering was stopped."));
         return m_result;
     }
 
@@ -315,7 +317,9 @@ private:
             return true;
         if (m_outcome.failed())
             return false;
-        failed(QStringLiteral("Writing %1 failed: %2").arg(write.output, error), QByteArray());
+        failed(
+            QCoreApplication::translate("Render", "Writing %1 failed: %2").arg(write.output, error),
+            QByteArray());
         return false;
     }
 
@@ -323,7 +327,7 @@ private:
     {
         if (!command.secretFile.isEmpty()
             && !m_work.writeSecret(command.secretFile, command.secret)) {
-            failed(QStringLiteral("A job file could not be written: %1")
+            failed(QCoreApplication::translate("Render", "A job file could not be written: %1")
                        .arg(QString::fromLocal8Bit(std::strerror(errno))),
                 QByteArray());
             return false;
@@ -361,14 +365,16 @@ private:
             m_work.removeFile(command.secretFile);
 
         if (process.error() == QProcess::FailedToStart) {
-            failed(QStringLiteral("%1 could not be started: %2")
+            failed(QCoreApplication::translate("Render", "%1 could not be started: %2")
                        .arg(command.program, process.errorString()),
                 errors);
             return false;
         }
         if (stopped) {
             if (!m_outcome.failed())
-                failed(QStringLiteral("%1 did not finish in time").arg(command.program), errors);
+                failed(QCoreApplication::translate("Render", "%1 did not finish in time")
+                           .arg(command.program),
+                    errors);
             return false;
         }
         const int status = process.exitCode();
@@ -376,9 +382,11 @@ private:
             && (status == 0 || (command.warningStatus != 0 && status == command.warningStatus)))
             return true;
         const QString cause = lastLine(errors);
-        failed(cause.isEmpty()
-                ? QStringLiteral("%1 failed with status %2").arg(command.program).arg(status)
-                : QStringLiteral("%1 failed: %2").arg(command.program, cause),
+        failed(cause.isEmpty() ? QCoreApplication::translate("Render", "%1 failed with status %2")
+                                     .arg(command.program)
+                                     .arg(status)
+                               : QCoreApplication::translate("Render", "%1 failed: %2")
+                                     .arg(command.program, cause),
             errors);
         return false;
     }
@@ -388,11 +396,13 @@ private:
     {
         if (!m_work.stillThere())
             m_outcome.fail(Failure::FolderGone,
-                QStringLiteral("The output folder disappeared while the job rendered: %1")
+                QCoreApplication::translate(
+                    "Render", "The output folder disappeared while the job rendered: %1")
                     .arg(m_folder));
         else if (errors.contains("No space left on device") || diskFull())
             m_outcome.fail(Failure::DiskFull,
-                QStringLiteral("The output folder's disk is full: %1").arg(m_folder));
+                QCoreApplication::translate("Render", "The output folder's disk is full: %1")
+                    .arg(m_folder));
         else
             m_outcome.fail(Failure::ToolFailed, message);
     }
@@ -530,9 +540,11 @@ Result runPlan(const Plan &plan, const QString &folder, Existing existing, int p
         const QString reason = QString::fromLocal8Bit(std::strerror(error));
         if (error == ENOSPC || error == EDQUOT)
             return failure(Failure::DiskFull,
-                QStringLiteral("The output folder's disk is full: %1").arg(folder));
+                QCoreApplication::translate("Render", "The output folder's disk is full: %1")
+                    .arg(folder));
         return failure(Failure::FolderGone,
-            QStringLiteral("The output folder cannot be written: %1: %2").arg(folder, reason));
+            QCoreApplication::translate("Render", "The output folder cannot be written: %1: %2")
+                .arg(folder, reason));
     }
 
     removeStaleWorkFolders(work.folderFd());
@@ -558,10 +570,11 @@ Result runPlan(const Plan &plan, const QString &folder, Existing existing, int p
     if (error != 0) {
         if (!work.stillThere())
             return failure(Failure::FolderGone,
-                QStringLiteral("The output folder disappeared while the job rendered: %1")
+                QCoreApplication::translate(
+                    "Render", "The output folder disappeared while the job rendered: %1")
                     .arg(folder));
         return failure(Failure::FolderGone,
-            QStringLiteral("The files could not be moved into %1: %2")
+            QCoreApplication::translate("Render", "The files could not be moved into %1: %2")
                 .arg(folder, QString::fromLocal8Bit(std::strerror(error))));
     }
     Result result;

@@ -5,6 +5,7 @@
 #include "render/planrunner.h"
 #include "render/renderplan.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
 
@@ -73,17 +74,18 @@ Result PostScriptConverter::convert(
     if (!start() || m_used) {
         if (!missingProgram({QLatin1String(program)}).isEmpty())
             return failure(Failure::MissingTool,
-                QStringLiteral("%1 is not installed (Debian package %2)")
+                QCoreApplication::translate("Render", "%1 is not installed (Debian package %2)")
                     .arg(QLatin1String(program), packageOf(QLatin1String(program))));
         return failure(Failure::ToolFailed,
-            QStringLiteral("%1 could not be started: %2")
+            QCoreApplication::translate("Render", "%1 could not be started: %2")
                 .arg(QLatin1String(program), m_process.errorString()));
     }
     m_used = true;
     QFile in(postScript);
     if (!in.open(QIODevice::ReadOnly))
         return failure(Failure::DamagedJob,
-            QStringLiteral("The job's PostScript %1 cannot be read").arg(postScript));
+            QCoreApplication::translate("Render", "The job's PostScript %1 cannot be read")
+                .arg(postScript));
 
     QElapsedTimer clock;
     clock.start();
@@ -108,13 +110,15 @@ Result PostScriptConverter::convert(
     }
     errors = m_process.readAllStandardError();
     if (stopped())
-        return failure(Failure::ToolFailed, QStringLiteral("Rendering was stopped."));
+        return failure(
+            Failure::ToolFailed, QCoreApplication::translate("Render", "Rendering was stopped."));
     if (late)
         return failure(Failure::ToolFailed,
-            QStringLiteral("%1 did not finish in time").arg(QLatin1String(program)));
+            QCoreApplication::translate("Render", "%1 did not finish in time")
+                .arg(QLatin1String(program)));
     if (m_process.exitStatus() != QProcess::NormalExit || m_process.exitCode() != 0)
         return failure(Failure::DamagedJob,
-            QStringLiteral("The job's PostScript %1 cannot be converted: %2")
+            QCoreApplication::translate("Render", "The job's PostScript %1 cannot be converted: %2")
                 .arg(postScript, lastLine(errors)));
     *pdf = m_folder.filePath(QStringLiteral("document.pdf"));
     return {};

@@ -9,6 +9,7 @@
 #include "render/rendering.h"
 #include "render/renderplan.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QProcess>
 #include <QThread>
@@ -26,9 +27,9 @@ constexpr int keptAsideRoom = 8;
 constexpr int pageCountSeconds = 120;
 constexpr int qpdfWarnings = 3;
 
-Result damaged(const QString &pdf, const QString &cause)
+Result damaged(const QString &message)
 {
-    return failure(Failure::DamagedJob, QStringLiteral("The job's PDF %1 %2").arg(pdf, cause));
+    return failure(Failure::DamagedJob, message);
 }
 
 } // namespace
@@ -42,13 +43,14 @@ int pageCount(const QString &pdf, Result *result)
 {
     const QFileInfo info(pdf);
     if (!info.isFile() || !info.isReadable()) {
-        *result = damaged(pdf, QStringLiteral("cannot be read"));
+        *result = damaged(
+            QCoreApplication::translate("Render", "The job's PDF %1 cannot be read").arg(pdf));
         return 0;
     }
     const QString reader = QStringLiteral("qpdf");
     if (!missingProgram({reader}).isEmpty()) {
         *result = failure(Failure::MissingTool,
-            QStringLiteral("%1 is not installed (Debian package %2)")
+            QCoreApplication::translate("Render", "%1 is not installed (Debian package %2)")
                 .arg(reader, packageOf(reader)));
         return 0;
     }
@@ -58,7 +60,9 @@ int pageCount(const QString &pdf, Result *result)
     if (!process.waitForFinished(pageCountSeconds * 1000)) {
         process.kill();
         process.waitForFinished(-1);
-        *result = damaged(pdf, QStringLiteral("cannot be read: its pages could not be counted"));
+        *result = damaged(QCoreApplication::translate(
+            "Render", "The job's PDF %1 cannot be read: its pages could not be counted")
+                              .arg(pdf));
         return 0;
     }
     // qpdf repairs what it can and says so with status 3.
@@ -67,12 +71,14 @@ int pageCount(const QString &pdf, Result *result)
     const int count = QString::fromUtf8(process.readAllStandardOutput()).trimmed().toInt(&ok);
     if (process.exitStatus() != QProcess::NormalExit
         || (process.exitCode() != 0 && process.exitCode() != qpdfWarnings) || !ok) {
-        *result = damaged(
-            pdf, QStringLiteral("cannot be read: ") + errors.section(QLatin1Char('\n'), -1));
+        *result
+            = damaged(QCoreApplication::translate("Render", "The job's PDF %1 cannot be read: %2")
+                          .arg(pdf, errors.section(QLatin1Char('\n'), -1)));
         return 0;
     }
     if (count <= 0)
-        *result = damaged(pdf, QStringLiteral("has no pages"));
+        *result = damaged(
+            QCoreApplication::translate("Render", "The job's PDF %1 has no pages").arg(pdf));
     return qMax(count, 0);
 }
 
@@ -82,13 +88,16 @@ Result renderJob(const Options &given, const QString &job, Existing existing, in
     Options options = given;
     const QFileInfo folder(options.folder);
     if (options.folder.isEmpty())
-        return failure(Failure::FolderGone, QStringLiteral("No output folder is set."));
+        return failure(
+            Failure::FolderGone, QCoreApplication::translate("Render", "No output folder is set."));
     if (!folder.isDir())
         return failure(Failure::FolderGone,
-            QStringLiteral("The output folder does not exist: %1").arg(options.folder));
+            QCoreApplication::translate("Render", "The output folder does not exist: %1")
+                .arg(options.folder));
     options.name = FileNames::fileNameOf(options.name);
     if (options.name.isEmpty())
-        return failure(Failure::Refused, QStringLiteral("The job has no file name."));
+        return failure(
+            Failure::Refused, QCoreApplication::translate("Render", "The job has no file name."));
 
     // PostScript is made PDF first, by the converter given (perhaps started ahead) or one of its
     // own; the PDF is then rendered as any job's.
@@ -114,12 +123,13 @@ Result renderJob(const Options &given, const QString &job, Existing existing, in
     for (const Output &output : plan.outputs) {
         if (output.fileName.toUtf8().size() + keptAsideRoom > longestName)
             return failure(Failure::Refused,
-                QStringLiteral("The file name is too long: %1").arg(output.fileName));
+                QCoreApplication::translate("Render", "The file name is too long: %1")
+                    .arg(output.fileName));
     }
     const QString missing = missingProgram(plan.programs());
     if (!missing.isEmpty())
         return failure(Failure::MissingTool,
-            QStringLiteral("%1 is not installed (Debian package %2)")
+            QCoreApplication::translate("Render", "%1 is not installed (Debian package %2)")
                 .arg(missing, packageOf(missing)));
     return runPlan(plan, folder.absoluteFilePath(), existing, parallel, stop);
 }

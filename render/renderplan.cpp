@@ -5,6 +5,7 @@
 #include "render/filenames.h"
 #include "render/pdfsecurity.h"
 
+#include <QCoreApplication>
 #include <QtMath>
 
 #include <array>
@@ -661,7 +662,7 @@ Plan Planner::plan()
         djvu();
         break;
     case Formats::Count:
-        m_plan.refusal = QStringLiteral("The format is unknown.");
+        m_plan.refusal = QCoreApplication::translate("Render", "The format is unknown.");
         return m_plan;
     }
     if (o.extractText)
