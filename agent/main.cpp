@@ -2,6 +2,7 @@
 // vellumio-agent: one per user session, started with the desktop. It takes the user's print jobs
 // from the spool, shows the dialog for each and renders the chosen files.
 #include "agent/agent.h"
+#include "locale/language.h"
 #include "settings/settingskey.h"
 
 #include <QCommandLineParser>
@@ -56,6 +57,11 @@ int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vellumio-agent"));
+    // Before the first text, the command-line help included.
+    const QString language
+        = Language::userLanguage(Language::processEnvironment(), Language::shippedLanguages());
+    if (!language.isEmpty())
+        Language::installTranslation(QStringLiteral("vellumio"), language);
     QCommandLineParser parser;
     parser.setApplicationDescription(
         Agent::tr("Shows the Vellumio dialog for each of your print jobs and renders them."));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The shipped translations: every text of the three windows translated, names and the colour
-// lookup keys left as they are, and every message keeping its placeholders, line breaks, edge
-// blanks and markup.
+// lookup keys left as they are, and every message of the dialog's and the agent's catalogues
+// keeping its placeholders, line breaks, edge blanks and markup.
 #include "app/runprotocol.h"
 #include "formats/formatcatalogue.h"
 #include "tests/desktop/forms.h"
@@ -62,11 +62,10 @@ struct Message
     QString translation;
 };
 
-// The messages of a language's .ts file.
-QList<Message> messagesOf(const QString &language)
+// The messages of a catalogue's .ts file for a language.
+QList<Message> messagesOf(const QString &catalogue)
 {
-    QFile file(
-        QStringLiteral(FMTASK_TRANSLATIONS_DIR "/fmtask_") + language + QStringLiteral(".ts"));
+    QFile file(QStringLiteral(FMTASK_TRANSLATIONS_DIR "/") + catalogue + QStringLiteral(".ts"));
     QList<Message> messages;
     if (!file.open(QIODevice::ReadOnly))
         return messages;
@@ -141,15 +140,24 @@ private slots:
         }
     }
 
-    // Every message of the language, forms and messages boxes alike, is translated in the program
-    // as in its .ts file, and keeps what the program relies on.
-    void messages_data() { languageRows(); }
+    // Every message of the language, forms, message boxes and the agent's notifications alike, is
+    // translated in the program as in its .ts file, and keeps what the program relies on.
+    void messages_data()
+    {
+        QTest::addColumn<QString>("catalogue"); // and language: "fmtask_de"
+        for (const char *program : {"fmtask", "vellumio"}) {
+            for (const QString &language : RunProtocol::shippedLanguages()) {
+                const QString catalogue = QLatin1String(program) + QLatin1Char('_') + language;
+                QTest::newRow(qPrintable(catalogue)) << catalogue;
+            }
+        }
+    }
     void messages()
     {
-        QFETCH(QString, language);
+        QFETCH(QString, catalogue);
         QTranslator shipped;
-        QVERIFY(Forms::loadTranslation(&shipped, language));
-        const QList<Message> messages = messagesOf(language);
+        QVERIFY(shipped.load(catalogue, QStringLiteral(FMTASK_QM_DIR)));
+        const QList<Message> messages = messagesOf(catalogue);
         QVERIFY(!messages.isEmpty());
         for (const Message &message : messages) {
             const QString translation = shipped.translate(
