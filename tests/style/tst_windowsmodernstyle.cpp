@@ -17,6 +17,13 @@ const QRect ControlRect(10, 5, 80, 24); // tabs, tool-box tabs and menu-bar item
 const QRect ToolButtonRect(5, 4, 40, 24);
 const QRect DropDownRect(50, 4, 14, 24);
 
+struct Probe
+{
+    QPoint point;
+    QColor colour;
+    int tolerance = 0;
+};
+
 QColor grey(int v)
 {
     return QColor(v, v, v);
@@ -39,6 +46,8 @@ QPalette makePalette(const QColor &button, const QColor &base, const QColor &hig
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(QList<Probe>)
 
 // On a main window's widgets and a dialog's.
 class tst_WindowsModernStyle : public QObject
@@ -110,14 +119,14 @@ private slots:
         QCOMPARE(translucent.borderLight, QColor(131, 131, 131));
     }
 
+    // What a scene draws at some points: a colour (gradients get some slack), Untouched, or
+    // AsBase (drawn exactly as the base style draws it).
     void pixels_data()
     {
         QTest::addColumn<Scene>("scene");
         QTest::addColumn<QStyle::State>("state");
         QTest::addColumn<QByteArray>("widget"); // empty: drawn without a widget
-        QTest::addColumn<QPoint>("point");
-        QTest::addColumn<QColor>("expected");
-        QTest::addColumn<int>("tolerance"); // gradients get some slack
+        QTest::addColumn<QList<Probe>>("probes");
         using S = QStyle;
         const S::State on = S::State_Enabled, hover = on | S::State_MouseOver,
                        pressed = on | S::State_Sunken, checked = on | S::State_On,
@@ -125,91 +134,60 @@ private slots:
                        checkSel = checked | selected, offSelect = S::State_Selected,
                        offSunken = S::State_Sunken, offHover = S::State_MouseOver;
         const auto row = [](const char *name, Scene scene, S::State state, const char *widget,
-                             QPoint point, const QColor &expected, int tolerance = 0) {
-            QTest::addRow("%s at %d,%d", name, point.x(), point.y())
-                << scene << state << QByteArray(widget) << point << expected << tolerance;
+                             const QList<Probe> &probes) {
+            QTest::newRow(name) << scene << state << QByteArray(widget) << probes;
         };
         for (const bool across : {false, true}) { // handle and separator of a horizontal bar
             const auto at = [across](int a, int b) { return across ? QPoint(b, a) : QPoint(a, b); };
+            QList<Probe> handle {{at(19, 3), Untouched}}, separator {{at(18, 2), Untouched}};
+            for (int i : {4, 9, 14}) // the dark square covers the light one where they overlap
+                handle << Probe {at(i + 1, 4), GripShadow} << Probe {at(i + 2, 5), Light};
+            for (int a : {2, 17})
+                separator << Probe {at(a, 2), SeparatorDark} << Probe {at(a, 3), Light};
             const S::State state = across ? S::State_Horizontal : S::State_None;
-            const char *handle = across ? "horizontal handle" : "handle";
-            const char *separator = across ? "horizontal bar separator" : "bar separator";
-            for (int i : {4, 9, 14}) { // the dark square covers the light one where they overlap
-                row(handle, Handle, state, "", at(i + 1, 4), GripShadow);
-                row(handle, Handle, state, "", at(i + 2, 5), Light);
-            }
-            row(handle, Handle, state, "", at(19, 3), Untouched);
-            for (int a : {2, 17}) {
-                row(separator, BarSeparator, state, "", at(a, 2), SeparatorDark);
-                row(separator, BarSeparator, state, "", at(a, 3), Light);
-            }
-            row(separator, BarSeparator, state, "", at(18, 2), Untouched);
+            row(across ? "horizontal handle" : "handle", Handle, state, "", handle);
+            row(across ? "horizontal bar separator" : "bar separator", BarSeparator, state, "",
+                separator);
         }
         // clang-format off
-        // Columns: name, scene, state, widget, point, expected colour, tolerance.
-        row("menu item",       MenuItem,      on,        "",             {0, 11},    BarTop,    4);
-        row("menu item",       MenuItem,      on,        "",             {24, 11},   Button,    4);
-        row("menu item",       MenuItem,      on,        "",             {25, 0},    MenuArea);
-        row("selected item",   MenuItem,      selected,  "",             {100, 11},  HoverFill);
-        row("selected item",   MenuItem,      selected,  "",             {1, 11},    Highlight);
-        row("selected item",   MenuItem,      selected,  "",             {0, 11},    Untouched);
-        row("disabled item",   MenuItem,      offSelect, "",             {100, 11},  MenuArea);
-        row("checked item",    MenuItem,      checked,   "",             {4, 3},     CheckedFill);
-        row("checked item",    MenuItem,      checked,   "",             {2, 3},     Highlight);
-        row("selected check",  MenuItem,      checkSel,  "",             {4, 3},     PressedFill);
-        row("menu separator",  MenuSeparator, on,        "",             {32, 10},   SeparatorDark);
-        row("menu separator",  MenuSeparator, on,        "",             {31, 10},   MenuArea);
+        row("menu item",       MenuItem,      on,        "",             {{{0, 11}, BarTop, 4}, {{24, 11}, Button, 4}, {{25, 0}, MenuArea}});
+        row("selected item",   MenuItem,      selected,  "",             {{{100, 11}, HoverFill}, {{1, 11}, Highlight}, {{0, 11}, Untouched}});
+        row("disabled item",   MenuItem,      offSelect, "",             {{{100, 11}, MenuArea}});
+        row("checked item",    MenuItem,      checked,   "",             {{{4, 3}, CheckedFill}, {{2, 3}, Highlight}});
+        row("selected check",  MenuItem,      checkSel,  "",             {{{4, 3}, PressedFill}});
+        row("menu separator",  MenuSeparator, on,        "",             {{{32, 10}, SeparatorDark}, {{31, 10}, MenuArea}});
         // An open menu-bar item stays open towards its menu: its frame ends below the item.
-        row("open bar item",   MenuBarItem,   pressed,   "",             {50, 6},    BarTop,    4);
-        row("open bar item",   MenuBarItem,   pressed,   "",             {50, 28},   BarMiddle, 4);
-        row("open bar item",   MenuBarItem,   pressed,   "",             {10, 15},   MenuBorder);
-        row("open bar item",   MenuBarItem,   pressed,   "",             {50, 29},   MenuBorder);
-        row("hovered bar",     MenuBarItem,   selected,  "",             {50, 15},   HoverFill);
-        row("hovered bar",     MenuBarItem,   selected,  "",             {10, 15},   Highlight);
-        row("disabled bar",    MenuBarItem,   offSunken, "",             {50, 15},   Untouched);
+        row("open bar item",   MenuBarItem,   pressed,   "",             {{{50, 6}, BarTop, 4}, {{50, 28}, BarMiddle, 4}, {{10, 15}, MenuBorder}, {{50, 29}, MenuBorder}});
+        row("hovered bar",     MenuBarItem,   selected,  "",             {{{50, 15}, HoverFill}, {{10, 15}, Highlight}});
+        row("disabled bar",    MenuBarItem,   offSunken, "",             {{{50, 15}, Untouched}});
         // The selected tab reaches two pixels over its left neighbour and one into the pane.
-        row("selected tab",    Tab,           selected,  "main bar",     {8, 17},    Dark);
-        row("selected tab",    Tab,           selected,  "main bar",     {7, 17},    Untouched);
-        row("selected tab",    Tab,           selected,  "main bar",     {49, 6},    HoverFill, 8);
-        row("hovered tab",     Tab,           hover,     "main bar",     {10, 17},   BorderLight);
-        row("hovered tab",     Tab,           hover,     "main bar",     {9, 17},    Untouched);
-        row("hovered tab",     Tab,           hover,     "main bar",     {49, 7},    HoverFill);
-        row("plain tab",       Tab,           on,        "main bar",     {49, 7},    BarMiddle, 8);
-        row("plain tab",       Tab,           on,        "main bar",     {49, 27},   Button,    8);
+        row("selected tab",    Tab,           selected,  "main bar",     {{{8, 17}, Dark}, {{7, 17}, Untouched}, {{49, 6}, HoverFill, 8}});
+        row("hovered tab",     Tab,           hover,     "main bar",     {{{10, 17}, BorderLight}, {{9, 17}, Untouched}, {{49, 7}, HoverFill}});
+        row("plain tab",       Tab,           on,        "main bar",     {{{49, 7}, BarMiddle, 8}, {{49, 27}, Button, 8}});
         // Below the pages the gradients run upwards, from the tab's outer edge to the pane.
-        row("south tab",       Tab,           on,        "south bar",    {49, 25},   BarMiddle, 4);
-        row("south tab",       Tab,           on,        "south bar",    {49, 5},    Button,    8);
-        row("selected south",  Tab,           selected,  "south bar",    {49, 26},   HoverFill, 8);
-        row("dialog tab",      Tab,           selected,  "dialog bar",   {50, 17},   AsBase);
-        row("pressed box tab", ToolBoxTab,    pressed,   "",             {50, 15},   PressedFill);
-        row("pressed box tab", ToolBoxTab,    pressed,   "",             {10, 15},   Dark);
-        row("hovered box tab", ToolBoxTab,    hover,     "",             {50, 15},   HoverFill);
-        row("hovered box tab", ToolBoxTab,    hover,     "",             {10, 15},   Dark);
-        row("plain box tab",   ToolBoxTab,    on,        "",             {50, 6},    BarMiddle, 8);
-        row("plain box tab",   ToolBoxTab,    on,        "",             {50, 27},   Button,    8);
-        row("plain box tab",   ToolBoxTab,    on,        "",             {10, 15},   BorderLight);
-        row("disabled box",    ToolBoxTab,    offHover,  "",             {50, 6},    BarMiddle, 8);
-        row("checked button",  ToolButton,    checked,   "bar button",   {25, 16},   CheckedFill);
-        row("checked button",  ToolButton,    checked,   "bar button",   {5, 16},    Highlight);
-        row("hovered button",  ToolButton,    hover,     "bar button",   {25, 16},   HoverFill);
-        row("hot checked",     ToolButton,    hotCheck,  "bar button",   {25, 16},   PressedFill);
-        row("pressed button",  ToolButton,    pressed,   "bar button",   {25, 16},   PressedFill);
-        row("plain button",    ToolButton,    on,        "bar button",   {25, 16},   Untouched);
-        row("checked side",    ToolButton,    checked,   "side button",  {25, 16},   CheckedFill);
-        row("dialog button",   ToolButton,    hotCheck,  "loose button", {25, 16},   AsBase);
+        row("south tab",       Tab,           on,        "south bar",    {{{49, 25}, BarMiddle, 4}, {{49, 5}, Button, 8}});
+        row("selected south",  Tab,           selected,  "south bar",    {{{49, 26}, HoverFill, 8}});
+        row("dialog tab",      Tab,           selected,  "dialog bar",   {{{50, 17}, AsBase}});
+        row("pressed box tab", ToolBoxTab,    pressed,   "",             {{{50, 15}, PressedFill}, {{10, 15}, Dark}});
+        row("hovered box tab", ToolBoxTab,    hover,     "",             {{{50, 15}, HoverFill}, {{10, 15}, Dark}});
+        row("plain box tab",   ToolBoxTab,    on,        "",             {{{50, 6}, BarMiddle, 8}, {{50, 27}, Button, 8}, {{10, 15}, BorderLight}});
+        row("disabled box",    ToolBoxTab,    offHover,  "",             {{{50, 6}, BarMiddle, 8}});
+        row("checked button",  ToolButton,    checked,   "bar button",   {{{25, 16}, CheckedFill}, {{5, 16}, Highlight}});
+        row("hovered button",  ToolButton,    hover,     "bar button",   {{{25, 16}, HoverFill}});
+        row("hot checked",     ToolButton,    hotCheck,  "bar button",   {{{25, 16}, PressedFill}});
+        row("pressed button",  ToolButton,    pressed,   "bar button",   {{{25, 16}, PressedFill}});
+        row("plain button",    ToolButton,    on,        "bar button",   {{{25, 16}, Untouched}});
+        row("checked side",    ToolButton,    checked,   "side button",  {{{25, 16}, CheckedFill}});
+        row("dialog button",   ToolButton,    hotCheck,  "loose button", {{{25, 16}, AsBase}});
         // The drop-down box shares the button's right border, one pixel left of its own rectangle.
-        row("hovered arrow",   DropDown,      hover,     "bar button",   {51, 6},    HoverFill);
-        row("hovered arrow",   DropDown,      hover,     "bar button",   {49, 15},   Highlight);
-        row("pressed arrow",   DropDown,      pressed,   "bar button",   {51, 6},    PressedFill);
-        row("side arrow",      DropDown,      pressed,   "side button",  {51, 6},    PressedFill);
-        row("plain arrow",     DropDown,      on,        "bar button",   {51, 6},    Untouched);
-        row("dialog arrow",    DropDown,      hover,     "loose button", {51, 6},    Untouched);
+        row("hovered arrow",   DropDown,      hover,     "bar button",   {{{51, 6}, HoverFill}, {{49, 15}, Highlight}});
+        row("pressed arrow",   DropDown,      pressed,   "bar button",   {{{51, 6}, PressedFill}});
+        row("side arrow",      DropDown,      pressed,   "side button",  {{{51, 6}, PressedFill}});
+        row("plain arrow",     DropDown,      on,        "bar button",   {{{51, 6}, Untouched}});
+        row("dialog arrow",    DropDown,      hover,     "loose button", {{{51, 6}, Untouched}});
         // The main window's gradient is complete at three fifths of the width and stops above
         // the status bar, which gets a light line on top.
-        row("main window",     MainWindow,    on,        "main window",  {0, 100},   Button,    3);
-        row("main window",     MainWindow,    on,        "main window",  {125, 169}, WindowEnd, 1);
-        row("main window",     MainWindow,    on,        "main window",  {199, 170}, Light);
-        row("main window",     MainWindow,    on,        "main window",  {100, 171}, Untouched);
+        row("main window",     MainWindow,    on,        "main window",  {{{0, 100}, Button, 3}, {{125, 169}, WindowEnd, 1}, {{199, 170}, Light}, {{100, 171}, Untouched}});
         // clang-format on
     }
 
@@ -218,17 +196,17 @@ private slots:
         QFETCH(Scene, scene);
         QFETCH(QStyle::State, state);
         QFETCH(QByteArray, widget);
-        QFETCH(QPoint, point);
-        QFETCH(QColor, expected);
-        QFETCH(int, tolerance);
+        QFETCH(QList<Probe>, probes);
         const QImage image = draw(scene, state, widget, &m_style);
-        if (!expected.isValid()) {
-            const QImage base = draw(scene, state, widget, m_style.baseStyle());
-            QVERIFY(image == base);
-            expected = base.pixelColor(point);
-            QVERIFY(expected != Untouched); // the base did draw there
+        const QImage base = draw(scene, state, widget, m_style.baseStyle());
+        for (const Probe &probe : probes) {
+            if (probe.colour.isValid()) {
+                comparePixel(image, probe.point, probe.colour, probe.tolerance);
+            } else {
+                QVERIFY(image == base);
+                QVERIFY(base.pixelColor(probe.point) != Untouched); // the base did draw there
+            }
         }
-        comparePixel(image, point, expected, tolerance);
     }
 
     void geometry()
@@ -264,61 +242,50 @@ private slots:
         QVERIFY(!fills("dialog tabs"));
     }
 
-    void pixelMetric_data()
+    // Per widget: a metric ("PM_", Base: the base style's value), or an attribute ("WA_") that
+    // polishing sets (1) or not (0) and unpolishing always clears.
+    void perWidget_data()
     {
         QTest::addColumn<QByteArray>("widget");
-        QTest::addColumn<QStyle::PixelMetric>("metric");
-        QTest::addColumn<int>("expected"); // Base: the base style's value
-        using S = QStyle;
-        const auto row
-            = [](const char *name, const char *widget, QStyle::PixelMetric metric, int expected) {
-                  QTest::newRow(name) << QByteArray(widget) << metric << expected;
-              };
+        QTest::addColumn<QByteArray>("key");
+        QTest::addColumn<int>("expected");
+        const auto row = [](const char *name, const char *widget, const char *key, int expected) {
+            QTest::newRow(name) << QByteArray(widget) << QByteArray(key) << expected;
+        };
         // clang-format off
-        row("tool-bar button does not shift",   "bar button",   S::PM_ButtonShiftVertical,    0);
-        row("dialog button shifts as the base", "loose button", S::PM_ButtonShiftVertical,    Base);
-        row("south tabs shift up",              "south bar",    S::PM_TabBarTabShiftVertical, -2);
-        row("north tabs shift down",            "main bar",     S::PM_TabBarTabShiftVertical, 2);
-        row("dialog tabs shift as the base",    "dialog bar",   S::PM_TabBarTabShiftVertical, Base);
-        row("main tabs overlap nothing",        "main tabs",    S::PM_TabBarBaseOverlap,      0);
-        row("dialog tabs padded as the base",   "dialog bar",   S::PM_TabBarTabHSpace,        Base);
+        row("tool-bar button does not shift",   "bar button",   "PM_ButtonShiftVertical",    0);
+        row("dialog button shifts as the base", "loose button", "PM_ButtonShiftVertical",    Base);
+        row("south tabs shift up",              "south bar",    "PM_TabBarTabShiftVertical", -2);
+        row("north tabs shift down",            "main bar",     "PM_TabBarTabShiftVertical", 2);
+        row("dialog tabs shift as the base",    "dialog bar",   "PM_TabBarTabShiftVertical", Base);
+        row("main tabs overlap nothing",        "main tabs",    "PM_TabBarBaseOverlap",      0);
+        row("dialog tabs padded as the base",   "dialog bar",   "PM_TabBarTabHSpace",        Base);
+        row("main window background",           "main window",  "WA_StyledBackground",       1);
+        row("main-window tabs hover",           "main bar",     "WA_Hover",                  1);
+        row("west tabs do not",                 "west bar",     "WA_Hover",                  0);
+        row("dialog tabs do not",               "dialog bar",   "WA_Hover",                  0);
         // clang-format on
     }
-
-    void pixelMetric()
+    void perWidget()
     {
         QFETCH(QByteArray, widget);
-        QFETCH(QStyle::PixelMetric, metric);
+        QFETCH(QByteArray, key);
         QFETCH(int, expected);
         QWidget *target = this->widget(widget);
-        if (expected == Base)
-            expected = m_style.baseStyle()->pixelMetric(metric, nullptr, target);
-        QCOMPARE(m_style.pixelMetric(metric, nullptr, target), expected);
-    }
-
-    void polishAttributes_data()
-    {
-        QTest::addColumn<QByteArray>("widget");
-        QTest::addColumn<Qt::WidgetAttribute>("attribute");
-        QTest::addColumn<bool>("set");
-        QTest::newRow("main window")
-            << QByteArray("main window") << Qt::WA_StyledBackground << true;
-        QTest::newRow("main-window tabs") << QByteArray("main bar") << Qt::WA_Hover << true;
-        QTest::newRow("west tabs") << QByteArray("west bar") << Qt::WA_Hover << false;
-        QTest::newRow("dialog tabs") << QByteArray("dialog bar") << Qt::WA_Hover << false;
-    }
-
-    // Polishing sets the attribute only where listed; unpolishing always clears it.
-    void polishAttributes()
-    {
-        QFETCH(QByteArray, widget);
-        QFETCH(Qt::WidgetAttribute, attribute);
-        QFETCH(bool, set);
-        QWidget *target = this->widget(widget);
         QVERIFY(target);
+        if (key.startsWith("PM_")) {
+            const auto metric = QStyle::PixelMetric(
+                QMetaEnum::fromType<QStyle::PixelMetric>().keyToValue(key.constData()));
+            if (expected == Base)
+                expected = m_style.baseStyle()->pixelMetric(metric, nullptr, target);
+            QCOMPARE(m_style.pixelMetric(metric, nullptr, target), expected);
+            return;
+        }
+        const auto attribute = Qt::WidgetAttribute(
+            QMetaEnum::fromType<Qt::WidgetAttribute>().keyToValue(key.constData()));
         target->setAttribute(attribute, false);
         m_style.polish(target);
-        QCOMPARE(target->testAttribute(attribute), set);
+        QCOMPARE(int(target->testAttribute(attribute)), expected);
         m_style.unpolish(target);
         QVERIFY(!target->testAttribute(attribute));
     }
@@ -332,27 +299,10 @@ private slots:
         QVERIFY(!std::unique_ptr<QStyle>(QStyleFactory::create("Windows Modern Style")));
     }
 
-    void paletteChange_data()
-    {
-        QTest::addColumn<QPalette>("before");
-        QTest::addColumn<QPalette>("after");
-        QTest::addColumn<QColor>("menu"); // menu background under "after"
-        QTest::addColumn<QColor>("selection"); // selected menu item under "after"
-        const QPalette light = makePalette(grey(240), grey(252), QColor(48, 120, 210));
-        const QPalette dark = makePalette(grey(53), grey(35), QColor(41, 128, 217));
-        const QPalette darkRed = makePalette(grey(53), grey(35), QColor(201, 41, 41));
-        QTest::newRow("light to dark") << light << dark << grey(38) << QColor(37, 63, 90);
-        QTest::newRow("new highlight") << dark << darkRed << grey(38) << QColor(85, 37, 37);
-    }
-
     // Installed on the application, the style recolours as soon as the palette changes, as when
-    // the desktop switches to dark colours.
+    // the desktop switches to dark colours and then to another highlight.
     void paletteChange()
     {
-        QFETCH(QPalette, before);
-        QFETCH(QPalette, after);
-        QFETCH(QColor, menu);
-        QFETCH(QColor, selection);
         const QPalette previousPalette = QApplication::palette();
         const QString previousStyle = QApplication::style()->name();
         const auto restore = qScopeGuard([&] {
@@ -360,12 +310,18 @@ private slots:
             QApplication::setStyle(previousStyle);
         });
         QApplication::setStyle(new WindowsModernStyle);
-        QApplication::setPalette(before);
-        QApplication::setPalette(after);
-        const QStyle *installed = QApplication::style();
-        comparePixel(draw(MenuItem, QStyle::State_Enabled, {}, installed), {100, 11}, menu, 0);
-        comparePixel(draw(MenuItem, QStyle::State_Enabled | QStyle::State_Selected, {}, installed),
-            {100, 11}, selection, 0);
+        QApplication::setPalette(makePalette(grey(240), grey(252), QColor(48, 120, 210)));
+        for (const auto &[highlight, selection] :
+            {std::pair(QColor(41, 128, 217), QColor(37, 63, 90)),
+                std::pair(QColor(201, 41, 41), QColor(85, 37, 37))}) {
+            QApplication::setPalette(makePalette(grey(53), grey(35), highlight));
+            const QStyle *installed = QApplication::style();
+            comparePixel(
+                draw(MenuItem, QStyle::State_Enabled, {}, installed), {100, 11}, grey(38), 0);
+            comparePixel(
+                draw(MenuItem, QStyle::State_Enabled | QStyle::State_Selected, {}, installed),
+                {100, 11}, selection, 0);
+        }
     }
 
 private:
@@ -375,7 +331,9 @@ private:
         const QColor actual = image.pixelColor(point);
         const int off = std::max({qAbs(actual.red() - expected.red()),
             qAbs(actual.green() - expected.green()), qAbs(actual.blue() - expected.blue())});
-        QVERIFY2(off <= tolerance, qPrintable(actual.name() + " instead of " + expected.name()));
+        QVERIFY2(off <= tolerance,
+            qPrintable(QString("%1,%2: ").arg(point.x()).arg(point.y()) + actual.name()
+                + " instead of " + expected.name()));
     }
 
     QImage draw(Scene scene, QStyle::State state, const QByteArray &on, const QStyle *style)
