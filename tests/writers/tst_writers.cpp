@@ -190,6 +190,16 @@ private slots:
             const QByteArray crypt = swf.tags[24].first().mid(2).chopped(1);
             QCOMPARE(opensslCrypt(password.toUtf8(), crypt.split('$').value(2)), crypt);
         }
+        // A player's own reader finds every page image.
+        QTemporaryDir folder;
+        QFile out(folder.filePath("pages.swf"));
+        QVERIFY(out.open(QIODevice::WriteOnly) && out.write(file) == file.size());
+        out.close();
+        if (!QStandardPaths::findExecutable("ffprobe").isEmpty())
+            QCOMPARE(run("ffprobe",
+                         {"-v", "error", "-count_packets", "-show_entries",
+                             "stream=nb_read_packets", "-of", "csv=p=0", out.fileName()}),
+                QByteArray::number(pages.size()));
     }
 
     void rejected_data()
@@ -209,22 +219,6 @@ private slots:
         QString reason;
         QCOMPARE(Swf::document({{m_jpeg, "a"}, {image, "b"}}, {}, &reason), QByteArray());
         QCOMPARE(reason, error);
-    }
-
-    void readByFfprobe()
-    {
-        const QString ffprobe = QStandardPaths::findExecutable("ffprobe");
-        if (ffprobe.isEmpty())
-            QSKIP("ffprobe is not installed");
-        QTemporaryDir folder;
-        QFile file(folder.filePath("pages.swf"));
-        QVERIFY(file.open(QIODevice::WriteOnly)
-            && file.write(Swf::document({{m_jpeg, "a"}, {m_jpeg, "b"}, {m_jpeg, "c"}}, {})) > 0);
-        file.close();
-        QCOMPARE(run(ffprobe,
-                     {"-v", "error", "-count_packets", "-show_entries", "stream=nb_read_packets",
-                         "-of", "csv=p=0", file.fileName()}),
-            "3");
     }
 
     void rtf_data()
