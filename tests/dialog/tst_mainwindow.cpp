@@ -82,15 +82,17 @@ private slots:
         QVERIFY(w->part("cd_extract_text")->isVisible());
     }
 
-    // The TIFF compression buttons, clicked with the mouse: each click refills the list for its
-    // method, also on the button already checked; checking one by code runs nothing.
-    void compression_data()
+    // Radio buttons clicked with the mouse on the TIFF page, a colour picked, one clicked again,
+    // one checked by code at the end. Each compression click refills the colour list for its
+    // method, also on the button already checked; checking one by code runs nothing. Driver
+    // contract: the custom number field follows the prefix buttons' clicks, not their state.
+    void clicks_data()
     {
         QTest::addColumn<QStringList>("clicked");
         QTest::addColumn<QString>("picked"); // colour chosen then; empty: none
         QTest::addColumn<QString>("thenClicked"); // empty: none
         QTest::addColumn<QString>("checkedByCode"); // at the end; empty: none
-        QTest::addColumn<QString>("colours");
+        QTest::addColumn<QString>("shown"); // the colour list, or the custom number field
         const QString mono = "Monochrome > Monochrome = 1, disabled";
         const QString trueColor = allModes + " > TrueColor = 24";
         // clang-format off
@@ -102,15 +104,18 @@ private slots:
         QTest::newRow("PACKBITS after JPEG")  << QStringList{"rb_4", "rb_packbits"} << "" << "" << "" << trueColor;
         QTest::newRow("FAX4 checked by code") << QStringList{"rb_1"} << ""          << ""     << "rb_2" << trueColor;
         QTest::newRow("LZW clicked again")    << QStringList{"rb_1"} << "Grayscale" << "rb_1" << ""     << trueColor;
+        QTest::newRow("Custom")               << QStringList{"rb_pefix_custom"} << "" << "" << "" << "custom enabled";
+        QTest::newRow("Add 1 after Custom")   << QStringList{"rb_pefix_custom", "rb_pefix_1"} << "" << "" << "" << "custom disabled";
+        QTest::newRow("Add 1 checked by code") << QStringList{"rb_pefix_custom"} << "" << "" << "rb_pefix_1" << "custom enabled";
         // clang-format on
     }
-    void compression()
+    void clicks()
     {
         QFETCH(QStringList, clicked);
         QFETCH(QString, picked);
         QFETCH(QString, thenClicked);
         QFETCH(QString, checkedByCode);
-        QFETCH(QString, colours);
+        QFETCH(QString, shown);
         open(true);
         w->tabs()->setCurrentIndex(4);
         for (const QString &name : clicked)
@@ -121,33 +126,10 @@ private slots:
             QTest::mouseClick(w->part<QRadioButton>(thenClicked.toLatin1()), Qt::LeftButton);
         if (!checkedByCode.isEmpty())
             w->part<QRadioButton>(checkedByCode.toLatin1())->setChecked(true);
-        QCOMPARE(coloursShown(), colours);
-    }
-
-    // Driver contract: the custom number field follows the prefix buttons' clicks, not their
-    // checked state.
-    void prefixButtons_data()
-    {
-        QTest::addColumn<QStringList>("clicked");
-        QTest::addColumn<QString>("checkedByCode"); // afterwards; empty: none
-        QTest::addColumn<bool>("enabled");
-        QTest::newRow("Custom") << QStringList {"rb_pefix_custom"} << "" << true;
-        QTest::newRow("Add 1 after Custom")
-            << QStringList {"rb_pefix_custom", "rb_pefix_1"} << "" << false;
-        QTest::newRow("Add 1 checked by code")
-            << QStringList {"rb_pefix_custom"} << "rb_pefix_1" << true;
-    }
-    void prefixButtons()
-    {
-        QFETCH(QStringList, clicked);
-        QFETCH(QString, checkedByCode);
-        QFETCH(bool, enabled);
-        open(true);
-        for (const QString &name : clicked)
-            QTest::mouseClick(w->part<QRadioButton>(name.toLatin1()), Qt::LeftButton);
-        if (!checkedByCode.isEmpty())
-            w->part<QRadioButton>(checkedByCode.toLatin1())->setChecked(true);
-        QCOMPARE(w->part("le_pr_custom")->isEnabled(), enabled);
+        QCOMPARE(shown.startsWith("custom ")
+                ? (w->part("le_pr_custom")->isEnabled() ? "custom enabled" : "custom disabled")
+                : coloursShown(),
+            shown);
     }
 
     // Only the ASCII digits get into the custom number, typed key by key (as a keyboard layout
