@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The formats as the driver and the stored settings name them, where the converter is looked
-// for, and where the window is placed.
+// Where the converter is looked for, and where the window is placed. Each format's stored token
+// is read by the settings suite and rendered by the render suite.
 #include "app/runprotocol.h"
-#include "formats/formatcatalogue.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -14,24 +13,6 @@ class tst_FormatCatalogue : public QObject
     Q_OBJECT
 
 private slots:
-    // Each stored token names the format of its tab; a token in other letters or an extension
-    // names none. The filters are the Save As suites', the extension values the settings suite's.
-    void formats_data()
-    {
-        QTest::addColumn<int>("index"); // -1: no format
-        const char *const tokens[] = {
-            "bmp", "png", "jpg", "jp2", "tif", "gif", "swf", "pdf", "rtf", "msxml", "htm", "djvu"};
-        for (int index = 0; index < int(std::size(tokens)); ++index)
-            QTest::newRow(tokens[index]) << index;
-        QTest::newRow("PDF") << -1;
-        QTest::newRow("xls") << -1;
-    }
-    void formats()
-    {
-        QFETCH(int, index);
-        QCOMPARE(Formats::byToken(QTest::currentDataTag()), Formats::byIndex(index));
-    }
-
     // Driver contract: the first occurrence of the program's name is replaced, wherever it stands;
     // when it is not found, only the last character goes, so the converter is not found.
     void converterPath_data()

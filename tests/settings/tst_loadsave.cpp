@@ -13,7 +13,6 @@
 #include <QtWidgets>
 
 Q_DECLARE_METATYPE(Settings::Value)
-Q_DECLARE_METATYPE(SettingsScope)
 
 namespace {
 
@@ -67,9 +66,7 @@ private slots:
     {
         QTest::addColumn<Settings::Value>("value");
         QTest::addColumn<QString>("name");
-        QTest::addColumn<SettingsScope>("key"); // where it is stored
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("alongside"); // other values stored with it
+        QTest::addColumn<QString>("stored"); // other values stored with it on further lines
         QTest::addColumn<int>("page"); // current while saving
         QTest::addColumn<QString>("item"); // the widget or job value it feeds; empty: none
         QTest::addColumn<QString>("byDefault"); // what the item shows when nothing is stored
@@ -79,11 +76,9 @@ private slots:
         using namespace Settings;
         const auto row
             = [](const char *name, Value value, int page, const char *item, const char *byDefault,
-                  const char *stored, const Shown &loaded, const Shown &written,
-                  SettingsScope key = SettingsScope::User, const char *alongside = "") {
-                  QTest::newRow(name)
-                      << value << QString(name) << key << QString(stored) << QString(alongside)
-                      << page << QString(item) << QString(byDefault) << loaded << written;
+                  const char *stored, const Shown &loaded, const Shown &written) {
+                  QTest::newRow(name) << value << QString(name) << QString(stored) << page
+                                      << QString(item) << QString(byDefault) << loaded << written;
               };
         // clang-format off
         row("format",           Format,        Bmp,  "formatToken",       "tif",       "png",   {{"formatToken", "png"}, {"tabWidget", "1"}, {"selectedFilter", "PNG Format (*.png)"}}, {{"format", "png"}});
@@ -118,7 +113,7 @@ private slots:
         // "pw" scrambled is p, 'p' - 0, w, 'w' - 1. Driver contract: typed with the protection
         // off, the stored password is kept; switched on, both values follow.
         row("protect_swf",      ProtectSwf,    Swf,  "le_swf_protect",    "",          "ppwv",  {{"le_swf_protect", "pw"}}, {{"protect_swf", "(gone)"}});
-        row("b_protect_swf",    BProtectSwf,   Swf,  "ch_swf_protect",    "unchecked", "true",  {{"le_swf_protect", "pw"}, {"ch_swf_protect", "checked"}}, {{"b_protect_swf", "true"}, {"protect_swf", "ppwv"}}, SettingsScope::User, "protect_swf=ppwv");
+        row("b_protect_swf",    BProtectSwf,   Swf,  "ch_swf_protect",    "unchecked", "true\nprotect_swf=ppwv",  {{"le_swf_protect", "pw"}, {"ch_swf_protect", "checked"}}, {{"b_protect_swf", "true"}, {"protect_swf", "ppwv"}});
         // Driver contract: read as "path" and written as "Path".
         row("path",             PathRead,      Bmp,  "le_filename",       "Document1", "/out/", {{"le_filename", "/out/Document1"}, {"outputFolder", "/out/"}}, {{"Path", "/out/"}});
         row("pdf_title",        PdfTitle,      Bmp,  "pdf.title",         "",          "Title",    {{"pdf.title", "Title"}, {"PDF le_pdf_title", "Title"}}, {{"pdf_title", "Title"}});
@@ -153,34 +148,30 @@ private slots:
         // Read only; nothing stored keeps the application's style.
         row("style",                   Style,                 Bmp, "style",      "fusion", "Windows", {{"style", "windowsmodernstyle"}}, {});
         row("chDialog_SaveAs",         ChDialogSaveAs,        Bmp, "saveAsOnly", "false",  "true",    {{"saveAsOnly", "true"}}, {});
-        row("settings_for_all_users",  SettingsForAllUsers,   Bmp, "allUsers",   "false",  "true",    {{"allUsers", "true"}}, {}, SettingsScope::Machine);
-        // Written for the driver, never read back; "Path" is found by the name "path".
-        row("isabort",     IsAbort,     Bmp, "", "", "true",  {}, {});
-        row("newfilename", NewFileName, Bmp, "", "", "Other", {}, {});
+        row("settings_for_all_users",  SettingsForAllUsers,   Bmp, "allUsers",   "false",  "true",    {{"allUsers", "true"}}, {});
+        // Written for the driver, found by the name "path"; the other values written for the driver
+        // alone are the write order's.
         row("Path",        PathWritten, Bmp, "le_filename", "Document1", "/cap/", {{"le_filename", "/cap/Document1"}, {"outputFolder", "/cap/"}}, {{"Path", "/cap/"}});
-        row("chDialog",    ChDialog,    Bmp, "", "", "false", {}, {});
         // clang-format on
     }
     void everyValue()
     {
         QFETCH(Settings::Value, value);
         QFETCH(QString, name);
-        QFETCH(SettingsScope, key);
         QFETCH(QString, stored);
-        QFETCH(QString, alongside);
         QFETCH(int, page);
         QFETCH(QString, item);
         QFETCH(QString, byDefault);
         QFETCH(Shown, loaded);
         QFETCH(Shown, written);
-        QCOMPARE(int(Settings::ValueCount), 65);
         QCOMPARE(Settings::name(value), name);
 
         open();
         const Shown defaults = observed();
         QCOMPARE(defaults.value(item), byDefault);
-        writeKey(key == SettingsScope::User ? m_job->userFile() : m_job->machineFile(),
-            name + '=' + stored + '\n' + alongside);
+        // Only the all-users switch is read from the all-users key.
+        writeKey(name == "settings_for_all_users" ? m_job->machineFile() : m_job->userFile(),
+            name + '=' + stored);
         open();
         QCOMPARE(
             FormStates::text(FormStates::changes(defaults, observed())), FormStates::text(loaded));
@@ -226,6 +217,7 @@ private slots:
         // clang-format off
         row("nothing stored",     "",            "", {{"formatToken", "tif"}, {"tabWidget", "4"}, {"rb_1", "checked"}, {"cb_combobox", "TrueColor"}, {"colorCode", "24"}});
         row("capital PDF",        "format=PDF",  "", {{"formatToken", "jpg"}, {"tabWidget", "2"}});
+        row("extension, no token", "format=xls",  "", {{"formatToken", "jpg"}, {"tabWidget", "2"}});
         row("djvu, no converter", "format=djvu", "", {{"formatToken", "jpg"}, {"tabWidget", "2"}, {"selectedFilter", "JPEG Format (*.jpg)"}}, false);
         // Driver contract: the DjVu page is asked for as index 12, which the tab widget ignores.
         row("djvu, converter",    "format=djvu", "", {{"formatToken", "djvu"}, {"tabWidget", "6"}, {"selectedFilter", "DjVu Format (*.djvu)"}});
@@ -287,39 +279,34 @@ private slots:
     void writeOrder_data()
     {
         QTest::addColumn<int>("page");
-        QTest::addColumn<bool>("compressionChosen"); // one of the six TIFF buttons checked
-        QTest::addColumn<bool>("protectSwf"); // the SWF protection group checked
-        QTest::addColumn<QString>("swfPassword");
-        QTest::addColumn<bool>("showNextTime"); // "Show this dialog next time"
-        QTest::addColumn<bool>("allUsers");
+        // "no compression": none of the six TIFF buttons checked; "protected": the SWF protection
+        // group checked; "pw": a password typed; "no dialog": "Show this dialog next time" off.
+        QTest::addColumn<QString>("setup");
         QTest::addColumn<QStringList>("pageValues"); // written between Path and the common tail
         // clang-format off
-        QTest::newRow("jpeg")          << int(Jpeg) << true << false << "" << true << false << QStringList{"q_jpg", "format"};
-        QTest::newRow("tiff")          << int(Tiff) << true << false << "" << true << false << QStringList{"q_tif", "format_ext", "multipage_tiff", "format"};
-        QTest::newRow("swf protected") << int(Swf)  << true << true << "pw" << true << false << QStringList{"q_swf", "multipage_swf", "swf_text", "swf_animate", "b_protect_swf", "protect_swf", "format"};
-        QTest::newRow("pdf")           << int(Pdf)  << true << false << "" << true << false << QStringList{"q_pdf", "multipage_pdf", "pdf_text", "format"};
-        QTest::newRow("html")          << int(Html) << true << false << "" << true << false << QStringList{"q_htm", "format", "multipage_htm", "htm_text"};
-        QTest::newRow("djvu")          << int(Djvu) << true << false << "" << true << false << QStringList{"format", "multipage_djvu"};
+        QTest::newRow("jpeg")          << int(Jpeg) << ""              << QStringList{"q_jpg", "format"};
+        QTest::newRow("tiff")          << int(Tiff) << ""              << QStringList{"q_tif", "format_ext", "multipage_tiff", "format"};
+        QTest::newRow("swf protected") << int(Swf)  << "protected pw"  << QStringList{"q_swf", "multipage_swf", "swf_text", "swf_animate", "b_protect_swf", "protect_swf", "format"};
+        QTest::newRow("pdf")           << int(Pdf)  << ""              << QStringList{"q_pdf", "multipage_pdf", "pdf_text", "format"};
+        QTest::newRow("html")          << int(Html) << ""              << QStringList{"q_htm", "format", "multipage_htm", "htm_text"};
+        QTest::newRow("djvu")          << int(Djvu) << ""              << QStringList{"format", "multipage_djvu"};
         // Driver contract: "true" is never written for the dialog switch. With all users both
         // keys get one save.
-        QTest::newRow("bmp, no dialog") << int(Bmp) << true << false << "" << false << false << QStringList{"chDialog", "format"};
-        QTest::newRow("bmp, all users") << int(Bmp) << true << false << "" << true  << true  << QStringList{"format"};
-        QTest::newRow("tiff, none")     << int(Tiff) << false << false << "" << true << false << QStringList{"q_tif", "multipage_tiff", "format"};
+        QTest::newRow("bmp, no dialog") << int(Bmp) << "no dialog"     << QStringList{"chDialog", "format"};
+        QTest::newRow("bmp, all users") << int(Bmp) << "all users"     << QStringList{"format"};
+        QTest::newRow("tiff, none")     << int(Tiff) << "no compression" << QStringList{"q_tif", "multipage_tiff", "format"};
         // Driver contract: an empty password is written empty even when protected; with the
         // protection off a typed one leaves the stored one.
-        QTest::newRow("swf, no pw")    << int(Swf) << true << true  << ""   << true << false << QStringList{"q_swf", "multipage_swf", "swf_text", "swf_animate", "b_protect_swf", "protect_swf", "protect_swf", "format"};
-        QTest::newRow("swf off, pw")   << int(Swf) << true << false << "pw" << true << false << QStringList{"q_swf", "multipage_swf", "swf_text", "swf_animate", "b_protect_swf", "format"};
+        QTest::newRow("swf, no pw")    << int(Swf) << "protected"      << QStringList{"q_swf", "multipage_swf", "swf_text", "swf_animate", "b_protect_swf", "protect_swf", "protect_swf", "format"};
+        QTest::newRow("swf off, pw")   << int(Swf) << "pw"             << QStringList{"q_swf", "multipage_swf", "swf_text", "swf_animate", "b_protect_swf", "format"};
         // clang-format on
     }
     void writeOrder()
     {
         QFETCH(int, page);
-        QFETCH(bool, compressionChosen);
-        QFETCH(bool, protectSwf);
-        QFETCH(QString, swfPassword);
-        QFETCH(bool, showNextTime);
-        QFETCH(bool, allUsers);
+        QFETCH(QString, setup);
         QFETCH(QStringList, pageValues);
+        const bool allUsers = setup == "all users", compressionChosen = setup != "no compression";
         if (allUsers)
             writeKey(m_job->machineFile(), "settings_for_all_users=true");
         // A file edited by hand may hold a name in several spellings; the write leaves one, so
@@ -333,9 +320,9 @@ private slots:
             button->setAutoExclusive(compressionChosen);
             button->setChecked(compressionChosen && button->objectName() == "rb_3");
         }
-        show("ch_swf_protect", protectSwf ? "checked" : "unchecked");
-        show("le_swf_protect", swfPassword);
-        show("cd_dialog", showNextTime ? "checked" : "unchecked");
+        show("ch_swf_protect", setup.contains("protected") ? "checked" : "unchecked");
+        show("le_swf_protect", setup.contains("pw") ? "pw" : "");
+        show("cd_dialog", setup == "no dialog" ? "unchecked" : "checked");
         show("le_filename", m_job->path("out/report.pdf"));
         writes.clear();
         m_window->saveAllSettings();
