@@ -7,11 +7,9 @@
 // output: the whole print path against Ghostscript alone. Run as root:
 // BUILD/bench/printing/nodialog_bench [--rounds N]   (10 by default)
 #include "bench/printing/printingbench.h"
-#include "tests/printing/printharness.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <atomic>
@@ -227,12 +225,11 @@ int main(int argc, char *argv[])
         }
     }
 
-    removeStaleUsers();
-    QTemporaryDir dir;
-    const auto path = [&dir](const QString &relative) { return dir.filePath(relative); };
-    ::chmod(QFile::encodeName(dir.path()), 0711);
-    ThrowawayUser user('n', dir.path());
-    const QString spool = path(QStringLiteral("spool"));
+    PrintingBench::Setup setup('n');
+    const auto path = [&setup](const QString &relative) { return setup.path(relative); };
+    ThrowawayUser &user = setup.user;
+    PrivateCups &cups = setup.cups;
+    const QString &spool = setup.spool;
 
     // The filtered queue's description: the project's, less its own PDF entries, so that CUPS
     // reaches the backend through pdftopdf.
@@ -245,14 +242,9 @@ int main(int argc, char *argv[])
     filtered += "*cupsFilter: \"application/vnd.cups-pdf 0 -\"\n";
     writeFile(path(QStringLiteral("filtered.ppd")), filtered);
 
-    PrivateCups cups(path(QStringLiteral("cups")), spool);
-    QDir().mkpath(cups.dir);
     // Debian's PDF printer beside ours, installed as a backend that runs as root must be.
     const QString theirBackend = cups.path(QStringLiteral("serverbin/backend/cups-pdf"));
-    if (!user.uid || !makeSpoolRoot(spool)
-        || !cups.start(QStringLiteral(VELLUMIO_BACKEND),
-            QStringLiteral(SOURCE_DIR "/packaging/vellumio-policy.conf"))
-        || !QFile::copy(QLatin1String(cupsPdfBackend), theirBackend)
+    if (!setup.ready || !QFile::copy(QLatin1String(cupsPdfBackend), theirBackend)
         || ::chmod(QFile::encodeName(theirBackend), 0700) != 0
         || !cups.addQueue(QStringLiteral(SOURCE_DIR "/packaging/vellumio.ppd"))
         || !cups.addQueue(path(QStringLiteral("filtered.ppd")), QStringLiteral("Filtered"))

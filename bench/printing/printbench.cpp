@@ -7,13 +7,11 @@
 // takes beyond it is the project's.
 // Run as root: BUILD/bench/printing/print_bench [--rounds N]   (21 by default)
 #include "bench/printing/printingbench.h"
-#include "tests/printing/printharness.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QSocketNotifier>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <algorithm>
@@ -78,22 +76,14 @@ int main(int argc, char *argv[])
         = PrintingBench::rounds(argc, argv, 21, "a private scheduler, a throwaway user and Xvfb");
     if (rounds == 0)
         return 1;
-    removeStaleUsers();
-    QTemporaryDir dir;
-    const auto path = [&dir](const QString &relative) { return dir.filePath(relative); };
-    ::chmod(QFile::encodeName(dir.path()), 0711);
-    ThrowawayUser user('a', dir.path());
-    const QString spool = path(QStringLiteral("spool"));
-    QDir().mkpath(spool);
-    ::chmod(QFile::encodeName(spool), 0711);
-    writeFile(spool + QStringLiteral("/folders.stamp"), QByteArray());
-    PrivateCups cups(path(QStringLiteral("cups")), spool);
-    QDir().mkpath(cups.dir);
+    PrintingBench::Setup setup('a');
+    const auto path = [&setup](const QString &relative) { return setup.path(relative); };
+    ThrowawayUser &user = setup.user;
+    PrivateCups &cups = setup.cups;
+    const QString &spool = setup.spool;
     QProcess xvfb, agent;
     const QString display = startDisplay(xvfb, user);
-    if (!user.uid || display.isEmpty()
-        || !cups.start(QStringLiteral(VELLUMIO_BACKEND),
-            QStringLiteral(SOURCE_DIR "/packaging/vellumio-policy.conf"))
+    if (!setup.ready || display.isEmpty()
         || !cups.addQueue(QStringLiteral(SOURCE_DIR "/packaging/vellumio.ppd"))) {
         std::fprintf(stderr, "The scheduler, the user or the display did not start.\n");
         return 1;
@@ -108,13 +98,9 @@ int main(int argc, char *argv[])
     agent.waitForStarted();
 
     const QString document = path(QStringLiteral("job.pdf"));
-    runAs(nullptr, QStringLiteral("gs"),
-        {QStringLiteral("-q"), QStringLiteral("-dSAFER"), QStringLiteral("-dBATCH"),
-            QStringLiteral("-dNOPAUSE"), QStringLiteral("-sDEVICE=pdfwrite"),
-            QStringLiteral("-sPAPERSIZE=a4"), QStringLiteral("-o"), document, QStringLiteral("-c"),
-            QStringLiteral(
-                "/Helvetica findfont 30 scalefont setfont 72 700 moveto (Page) show showpage")},
-        QProcessEnvironment::systemEnvironment());
+    writePdf(document,
+        QStringLiteral(
+            "/Helvetica findfont 30 scalefont setfont 72 700 moveto (Page) show showpage"));
     ::chmod(QFile::encodeName(document), 0644);
 
     // Job arrivals in the user's folder and starts of the dialog program, as they happen.

@@ -10,14 +10,12 @@
 
 #include <csignal>
 #include <grp.h>
-#include <netinet/in.h>
 #include <pwd.h>
 #include <sys/prctl.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-// What the print path's tests and benchmark need of a real system: throwaway users, processes run
+// What the print path's tests and benchmarks need of a real system: throwaway users, processes run
 // as them, a private CUPS scheduler and a virtual display, each in the caller's own folder and gone
 // when done. The system's own CUPS, spool and users are never touched. Needs root.
 namespace PrintHarness {
@@ -35,23 +33,24 @@ inline bool retried(const QString &program, const QStringList &arguments)
     return false;
 }
 
-inline void removeUser(const QString &name)
-{
-    retried(QStringLiteral("userdel"), {name});
-}
-
 // Users left by runs that died before removing them: named after a process that is gone.
 inline void removeStaleUsers()
 {
-    QFile passwd(QStringLiteral("/etc/passwd"));
-    if (!passwd.open(QIODevice::ReadOnly))
-        return;
-    for (const QByteArray &line : passwd.readAll().split('\n')) {
+    QFile passwd("/etc/passwd");
+    const QByteArrayList lines
+        = passwd.open(QIODevice::ReadOnly) ? passwd.readAll().split('\n') : QByteArrayList();
+    for (const QByteArray &line : lines) {
         const QString name = QString::fromLatin1(line.left(line.indexOf(':')));
         const int pid = name.mid(int(sizeof userPrefix) - 1).chopped(1).toInt();
-        if (name.startsWith(QLatin1String(userPrefix)) && pid > 0 && ::kill(pid, 0) != 0)
-            removeUser(name);
+        if (name.startsWith(userPrefix) && pid > 0 && ::kill(pid, 0) != 0)
+            retried("userdel", {name});
     }
+}
+
+inline bool writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
 // A user made for one run, "vlmt<pid><letter>", with a home of mode 0700 under `folder`; removed
@@ -59,12 +58,10 @@ inline void removeStaleUsers()
 struct ThrowawayUser
 {
     ThrowawayUser(char letter, const QString &folder)
-        : name(QLatin1String(userPrefix) + QString::number(::getpid()) + QLatin1Char(letter))
-        , home(folder + QLatin1Char('/') + name)
+        : name(userPrefix + QString::number(::getpid()) + letter)
+        , home(folder + '/' + name)
     {
-        retried(QStringLiteral("useradd"),
-            {QStringLiteral("-M"), QStringLiteral("-d"), home, QStringLiteral("-s"),
-                QStringLiteral("/bin/sh"), name});
+        retried("useradd", {"-M", "-d", home, "-s", "/bin/sh", name});
         if (const passwd *entry = ::getpwnam(name.toLocal8Bit().constData())) {
             uid = entry->pw_uid, gid = entry->pw_gid;
             makeFolder(home, 0700);
@@ -73,7 +70,7 @@ struct ThrowawayUser
     ~ThrowawayUser()
     {
         if (uid)
-            removeUser(name);
+            retried("userdel", {name});
     }
     bool makeFolder(const QString &path, mode_t mode) const
     {
@@ -83,27 +80,19 @@ struct ThrowawayUser
     // The desktop session of this user: home, settings, runtime folder, display, spool root.
     QProcessEnvironment session(const QString &display, const QString &spoolRoot) const
     {
+        const QStringList values {"PATH", qEnvironmentVariable("PATH"), "HOME", home, "USER", name,
+            "LANG", "C.UTF-8", "XDG_CONFIG_HOME", home + "/.config", "XDG_RUNTIME_DIR",
+            home + "/run", "VELLUMIO_SPOOL", spoolRoot,
+            display.startsWith(':') ? "DISPLAY" : "QT_QPA_PLATFORM", display};
         QProcessEnvironment environment;
-        environment.insert(QStringLiteral("PATH"), qEnvironmentVariable("PATH"));
-        environment.insert(QStringLiteral("HOME"), home);
-        environment.insert(QStringLiteral("USER"), name);
-        environment.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
-        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home + QStringLiteral("/.config"));
-        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), home + QStringLiteral("/run"));
-        environment.insert(QStringLiteral("VELLUMIO_SPOOL"), spoolRoot);
-        if (display.startsWith(QLatin1Char(':')))
-            environment.insert(QStringLiteral("DISPLAY"), display);
-        else
-            environment.insert(QStringLiteral("QT_QPA_PLATFORM"), display);
-        makeFolder(home + QStringLiteral("/run"), 0700);
-        makeFolder(home + QStringLiteral("/.config/Tarnwick"), 0700);
+        for (qsizetype i = 0; i < values.size(); i += 2)
+            environment.insert(values[i], values[i + 1]);
+        makeFolder(home + "/run", 0700);
+        makeFolder(home + "/.config/Tarnwick", 0700);
         return environment;
     }
     // The user's settings file, as the dialog and the agent find it in this session.
-    QString settingsFile() const
-    {
-        return home + QStringLiteral("/.config/Tarnwick/Vellumio.conf");
-    }
+    QString settingsFile() const { return home + "/.config/Tarnwick/Vellumio.conf"; }
     // Values written into it as the dialog leaves them.
     void writeSettings(const QVariantMap &values) const
     {
@@ -138,7 +127,8 @@ inline void startAs(QProcess &process, const ThrowawayUser *user, const QString 
 
 // Runs a program to its end; its exit status, -1 when it did not end normally.
 inline int runAs(const ThrowawayUser *user, const QString &program, const QStringList &arguments,
-    const QProcessEnvironment &environment, QByteArray *output = nullptr)
+    const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment(),
+    QByteArray *output = nullptr)
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
@@ -149,12 +139,6 @@ inline int runAs(const ThrowawayUser *user, const QString &program, const QStrin
     return ended && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
 }
 
-inline bool writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
-
 // Everything in a folder, hidden entries too, by name.
 inline QStringList entries(const QString &folder)
 {
@@ -162,16 +146,26 @@ inline QStringList entries(const QString &folder)
         QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
 }
 
+// Ghostscript's PDF of a PostScript program, its pages A4 unless `options` say otherwise.
+inline bool writePdf(
+    const QString &file, const QString &program, const QStringList &options = {"-sPAPERSIZE=a4"})
+{
+    return runAs(nullptr, "gs",
+               QStringList {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=pdfwrite"} + options
+                   + QStringList {"-o", file, "-c", program})
+        == 0;
+}
+
 // The spool root as the installation leaves it: root's, 0711, with the stamp agents wait on.
 inline bool makeSpoolRoot(const QString &root)
 {
     return QDir().mkpath(root) && ::chmod(QFile::encodeName(root), 0711) == 0
-        && writeFile(root + QStringLiteral("/folders.stamp"), QByteArray());
+        && writeFile(root + "/folders.stamp", QByteArray());
 }
 
-// A scheduler of its own: configuration, spool, logs and socket in `folder`, a free loopback port,
-// the backend given copied into its backend folder with the mode CUPS wants, the system's filters
-// linked. Its backends spool into `spoolRoot`.
+// A scheduler of its own, reached only through its socket: configuration, spool, logs and socket in
+// `folder`, the backend given copied into its backend folder with the mode CUPS wants, the
+// system's filters linked. Its backends spool into `spoolRoot`.
 struct PrivateCups
 {
     PrivateCups(const QString &folder, const QString &spoolRoot)
@@ -184,54 +178,48 @@ struct PrivateCups
         cupsd.waitForFinished();
     }
 
-    QString path(const QString &name) const { return dir + QLatin1Char('/') + name; }
-    QString socket() const { return path(QStringLiteral("cups.sock")); }
+    QString path(const QString &name) const { return dir + '/' + name; }
+    QString socket() const { return path("cups.sock"); }
 
     bool start(const QString &backend, const QString &policyFile)
     {
         for (const char *sub :
             {"conf", "serverbin/backend", "spool", "cache", "state", "log", "tmp"})
-            QDir().mkpath(path(QLatin1String(sub)));
-        const QFileInfoList system = QDir(QStringLiteral("/usr/lib/cups"))
-                                         .entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot);
+            QDir().mkpath(path(sub));
+        const QFileInfoList system
+            = QDir("/usr/lib/cups").entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot);
         for (const QFileInfo &entry : system)
-            if (entry.fileName() != QLatin1String("backend"))
-                QFile::link(
-                    entry.filePath(), path(QStringLiteral("serverbin/")) + entry.fileName());
-        const QString installed = path(QStringLiteral("serverbin/backend/vellumio"));
+            if (entry.fileName() != "backend")
+                QFile::link(entry.filePath(), path("serverbin/") + entry.fileName());
+        const QByteArray installed = QFile::encodeName(path("serverbin/backend/vellumio")),
+                         temporary = QFile::encodeName(path("tmp"));
         const group *lp = ::getgrnam("lp");
-        if (!QFile::copy(backend, installed) || ::chmod(QFile::encodeName(installed), 0700) != 0
-            || !lp || ::chown(QFile::encodeName(path(QStringLiteral("tmp"))), 0, lp->gr_gid) != 0
-            || ::chmod(QFile::encodeName(path(QStringLiteral("tmp"))), 01770) != 0)
-            return false;
         QFile policy(policyFile);
-        if (!policy.open(QIODevice::ReadOnly))
+        if (!QFile::copy(backend, installed) || ::chmod(installed, 0700) != 0 || !lp
+            || ::chown(temporary, 0, lp->gr_gid) != 0 || ::chmod(temporary, 01770) != 0
+            || !policy.open(QIODevice::ReadOnly))
             return false;
-        const QString files = QStringLiteral(
-            "ServerRoot %1/conf\nServerBin %1/serverbin\nDataDir /usr/share/cups\n"
-            "RequestRoot %1/spool\nTempDir %1/tmp\nCacheDir %1/cache\nStateDir %1/state\n"
-            "AccessLog %1/log/access_log\nErrorLog %1/log/error_log\nPageLog %1/log/page_log\n"
-            "User lp\nGroup lp\nSystemGroup root\nFileDevice No\nSetEnv VELLUMIO_SPOOL %2\n")
-                                  .arg(dir, spool);
-        const QString conf = QStringLiteral(
-            "Listen 127.0.0.1:%1\nListen %2\nBrowsing Off\nDefaultAuthType Basic\nWebInterface No\n"
-            "LogLevel warn\n<Location />\n  Order allow,deny\n  Allow localhost\n</Location>\n"
-            "<Policy default>\n  <Limit All>\n    Order deny,allow\n  </Limit>\n</Policy>\n")
-                                 .arg(freePort())
-                                 .arg(socket());
-        if (!writeFile(path(QStringLiteral("conf/cups-files.conf")), files.toUtf8())
-            || !writeFile(
-                path(QStringLiteral("conf/cupsd.conf")), conf.toUtf8() + policy.readAll()))
+        const QString files
+            = QString("ServerRoot %1/conf\nServerBin %1/serverbin\nDataDir /usr/share/cups\n"
+                      "RequestRoot %1/spool\nTempDir %1/tmp\nCacheDir %1/cache\nStateDir %1/state\n"
+                      "AccessLog %1/log/access_log\nErrorLog %1/log/error_log\n"
+                      "PageLog %1/log/page_log\nUser lp\nGroup lp\nSystemGroup root\n"
+                      "FileDevice No\nSetEnv VELLUMIO_SPOOL %2\n")
+                  .arg(dir, spool);
+        const QString conf = "Listen " + socket()
+            + "\nBrowsing Off\nDefaultAuthType Basic\nWebInterface No\nLogLevel warn\n"
+              "<Location />\n  Order allow,deny\n  Allow localhost\n</Location>\n"
+              "<Policy default>\n  <Limit All>\n    Order deny,allow\n  </Limit>\n</Policy>\n";
+        if (!writeFile(path("conf/cups-files.conf"), files.toUtf8())
+            || !writeFile(path("conf/cupsd.conf"), conf.toUtf8() + policy.readAll()))
             return false;
-        startAs(cupsd, nullptr, QStringLiteral("cupsd"),
-            {QStringLiteral("-f"), QStringLiteral("-c"), path(QStringLiteral("conf/cupsd.conf")),
-                QStringLiteral("-s"), path(QStringLiteral("conf/cups-files.conf"))},
+        startAs(cupsd, nullptr, "cupsd",
+            {"-f", "-c", path("conf/cupsd.conf"), "-s", path("conf/cups-files.conf")},
             QProcessEnvironment::systemEnvironment());
         cupsd.waitForStarted();
         for (int tries = 0; tries < 200 && cupsd.state() == QProcess::Running; ++tries) {
             QByteArray answer;
-            runAs(nullptr, QStringLiteral("lpstat"),
-                {QStringLiteral("-h"), socket(), QStringLiteral("-r")},
+            runAs(nullptr, "lpstat", {"-h", socket(), "-r"},
                 QProcessEnvironment::systemEnvironment(), &answer);
             if (answer.contains("is running"))
                 return true;
@@ -241,29 +229,12 @@ struct PrivateCups
     }
 
     // A queue with the description `ppd` for the project's backend, under its own policy.
-    bool addQueue(const QString &ppd, const QString &name = QStringLiteral("Vellumio"))
+    bool addQueue(const QString &ppd, const QString &name = "Vellumio")
     {
-        return runAs(nullptr, QStringLiteral("lpadmin"),
-                   {QStringLiteral("-h"), socket(), QStringLiteral("-p"), name,
-                       QStringLiteral("-E"), QStringLiteral("-v"), QStringLiteral("vellumio:/"),
-                       QStringLiteral("-P"), ppd, QStringLiteral("-o"),
-                       QStringLiteral("printer-is-shared=false"), QStringLiteral("-o"),
-                       QStringLiteral("printer-op-policy=vellumio")},
-                   QProcessEnvironment::systemEnvironment())
+        return runAs(nullptr, "lpadmin",
+                   {"-h", socket(), "-p", name, "-E", "-v", "vellumio:/", "-P", ppd, "-o",
+                       "printer-is-shared=false", "-o", "printer-op-policy=vellumio"})
             == 0;
-    }
-
-    static int freePort()
-    {
-        const int fd = ::socket(AF_INET, SOCK_STREAM, 0);
-        sockaddr_in address {};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t length = sizeof address;
-        ::bind(fd, reinterpret_cast<sockaddr *>(&address), sizeof address);
-        ::getsockname(fd, reinterpret_cast<sockaddr *>(&address), &length);
-        ::close(fd);
-        return ntohs(address.sin_port);
     }
 
     QString dir, spool;
@@ -273,14 +244,12 @@ struct PrivateCups
 // A virtual X display run by `user`, as their desktop session would be.
 inline QString startDisplay(QProcess &xvfb, const ThrowawayUser &user)
 {
-    startAs(xvfb, &user, QStringLiteral("Xvfb"),
-        {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-nolisten"),
-            QStringLiteral("tcp"), QStringLiteral("-screen"), QStringLiteral("0"),
-            QStringLiteral("1280x1024x24")},
+    startAs(xvfb, &user, "Xvfb",
+        {"-displayfd", "1", "-nolisten", "tcp", "-screen", "0", "1280x1024x24"},
         QProcessEnvironment::systemEnvironment());
     while (xvfb.waitForReadyRead(10000) && !xvfb.canReadLine()) { }
     const QByteArray number = xvfb.readLine().trimmed();
-    return number.isEmpty() ? QString() : QLatin1Char(':') + QString::fromLatin1(number);
+    return number.isEmpty() ? QString() : ':' + QString::fromLatin1(number);
 }
 
 } // namespace PrintHarness
