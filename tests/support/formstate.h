@@ -11,8 +11,6 @@
 #include <QStringList>
 #include <QTabWidget>
 
-#include <optional>
-
 // What a user sees of a form, by object name: check boxes, radio buttons and checkable groups
 // "checked" or "unchecked", spin boxes their number, line edits their text, combo boxes their
 // current text, tab widgets their current index. Tables compare it as plain values.
@@ -34,25 +32,13 @@ inline const char *stateProperty(const QWidget *widget)
     return qobject_cast<const QTabWidget *>(widget) ? "currentIndex" : nullptr;
 }
 
-inline std::optional<QString> of(const QWidget *widget)
-{
-    const char *name = stateProperty(widget);
-    if (!name)
-        return std::nullopt;
-    const QVariant value = widget->property(name);
-    if (value.typeId() == QMetaType::Bool)
-        return QString::fromLatin1(value.toBool() ? "checked" : "unchecked");
-    return value.toString();
-}
-
 // Sets a widget as a user would leave it in that state.
 inline void set(QWidget *widget, const QString &state)
 {
     if (const char *name = stateProperty(widget))
         widget->setProperty(name,
-            widget->property(name).typeId() == QMetaType::Bool
-                ? QVariant(state == QLatin1String("checked"))
-                : QVariant(state));
+            widget->property(name).typeId() == QMetaType::Bool ? QVariant(state == "checked")
+                                                               : QVariant(state));
 }
 
 // Every named widget with a state below `root`; Qt's own inner widgets are left out.
@@ -61,9 +47,14 @@ inline FormState all(const QWidget *root)
     FormState state;
     for (const QWidget *widget : root->findChildren<QWidget *>()) {
         const QString name = widget->objectName();
-        const std::optional<QString> shown = of(widget);
-        if (!name.isEmpty() && !name.startsWith(QLatin1String("qt_")) && shown)
-            state.insert(name, *shown);
+        const char *property = stateProperty(widget);
+        if (name.isEmpty() || name.startsWith("qt_") || !property)
+            continue;
+        const QVariant value = widget->property(property);
+        state.insert(name,
+            value.typeId() != QMetaType::Bool ? value.toString()
+                : value.toBool()              ? "checked"
+                                              : "unchecked");
     }
     return state;
 }
@@ -72,14 +63,12 @@ inline FormState all(const QWidget *root)
 inline FormState changes(const FormState &before, const FormState &after)
 {
     FormState changed;
-    for (auto it = after.begin(); it != after.end(); ++it) {
-        if (before.value(it.key(), QStringLiteral("(gone)")) != it.value())
+    for (auto it = after.begin(); it != after.end(); ++it)
+        if (before.value(it.key(), "(gone)") != it.value())
             changed.insert(it.key(), it.value());
-    }
-    for (auto it = before.begin(); it != before.end(); ++it) {
+    for (auto it = before.begin(); it != before.end(); ++it)
         if (!after.contains(it.key()))
-            changed.insert(it.key(), QStringLiteral("(gone)"));
-    }
+            changed.insert(it.key(), "(gone)");
     return changed;
 }
 
@@ -88,8 +77,8 @@ inline QString text(const FormState &state)
 {
     QStringList pairs;
     for (auto it = state.begin(); it != state.end(); ++it)
-        pairs << it.key() + QLatin1Char('=') + it.value();
-    return pairs.join(QLatin1String("; "));
+        pairs << it.key() + '=' + it.value();
+    return pairs.join("; ");
 }
 
 } // namespace FormStates
