@@ -184,7 +184,6 @@ private slots:
     }
 
 private:
-    // The program's whole run with these words after its path, as the driver starts it.
     int runProgram(QByteArrayList arguments)
     {
         QByteArray program = job->path("bin/" + RunProtocol::programFileName()).toLocal8Bit();

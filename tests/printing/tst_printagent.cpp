@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The backend and the agent run for real as throwaway users, without a scheduler: who may spool
-// and where, twenty jobs at once, agents and dialogs killed, hostile titles, failures the user is
-// told of, and passwords kept off command lines. The dialog is the real program with a scripted
-// user; rendering is the real one.
+// The backend and the agent run for real as throwaway users, without a scheduler, with the real
+// program as the dialog (a scripted user pressing Print) and the real rendering.
 #include "agent/jobrules.h"
 #include "settings/passwordscrambling.h"
 #include "tests/printing/printharness.h"
@@ -108,7 +106,6 @@ private slots:
         m_session.insert("VELLUMIO_DIALOG_LOG", m_ann->home + "/dialog.log");
     }
 
-    // Before each test: an empty output folder, queue and log; PDF output; the dialog shown.
     void init()
     {
         for (const QString &name : entries(m_out))
@@ -204,15 +201,13 @@ private slots:
             runAs(nullptr, "pdftotext", {m_out + '/' + text + ".pdf", "-"}, m_session, &read);
             QCOMPARE(read.trimmed(), text);
         }
-        // Each dialog closes before the next one opens.
         const QList<QByteArray> lines = dialogLog().trimmed().split('\n');
         QCOMPARE(lines.size(), 40);
         for (qsizetype i = 0; i + 1 < lines.size(); i += 2)
             QVERIFY2(lines[i].startsWith("open ") && lines[i + 1] == "close" + lines[i].mid(4),
                 lines[i + 1].constData());
         QTRY_VERIFY(jobsIn(m_spool).isEmpty());
-        // A second agent of the same user leaves the work to the first.
-        QCOMPARE(runAgent({}, m_session), 3);
+        QCOMPARE(runAgent({}, m_session), 3); // a second agent leaves the work to the first
         QCOMPARE(m_agent.state(), QProcess::Running);
     }
 
@@ -370,7 +365,7 @@ private:
         QVERIFY(m_agent.waitForStarted());
     }
 
-    // The backend as the scheduler starts it, as root, with the document as a file.
+    // As the scheduler starts it: as root, the document as a file.
     void startBackend(QProcess &backend, const QString &root, const QString &user,
         const QString &title, const QByteArray &document)
     {

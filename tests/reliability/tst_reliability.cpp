@@ -86,7 +86,7 @@ QStringList saving(int writer, int rounds, int filler)
 
 } // namespace
 
-// Each test prints its figures, which CI shows.
+// Each test prints its figures for CI's log.
 class tst_Reliability : public QObject
 {
     Q_OBJECT
