@@ -104,9 +104,13 @@ private slots:
         job.last() = input(job.last());
         QCOMPARE(lp(QStringList {"-t", title} + job, nullptr), 0);
         const QString name = saveAsOnly ? "^Save File As" : "^Vellumio$";
+        QByteArray found;
         QCOMPARE(runAs(nullptr, "timeout",
-                     {"30", "xdotool", "search", "--sync", "--onlyvisible", "--name", name,
-                         "windowfocus", "--sync", "key", "Return"},
+                     {"30", "xdotool", "search", "--sync", "--onlyvisible", "--name", name},
+                     m_session, &found),
+            0);
+        const QString window = QString::fromUtf8(found.split('\n').first());
+        QCOMPARE(runAs(nullptr, "xdotool", {"windowfocus", "--sync", window, "key", "Return"},
                      m_session),
             0);
         const QString result = m_ann->home + "/out/" + file;
