@@ -152,7 +152,7 @@ void Agent::takeJob(const QString &name)
     // Messages name the job by this too: a title is whatever the printing program chose.
     m_fileName = JobRules::safeFileName(QString::fromStdString(m_job->info.title));
     if (Render::isPostScript(m_job->document))
-        keepConverterReady();
+        startConverter();
     if (!JobRules::dialogWanted(SettingsKey(SettingsScope::User).value(Settings::ChDialog)))
         return render(Render::Existing::KeepAll, m_fileName);
     showDialog();
@@ -204,8 +204,6 @@ void Agent::render(Render::Existing existing, const QString &name)
     const bool postScript = Render::isPostScript(m_job->document);
     const Render::Result result = Render::renderJob(
         m_job->document, name, existing, postScript ? m_converter.get() : nullptr);
-    if (postScript)
-        keepConverterReady();
     if (!result.ok())
         return failJob(result.message);
     if (!result.files.isEmpty() && SettingsKey(optionsScope()).flag(Settings::LoadExtApp))
@@ -213,10 +211,8 @@ void Agent::render(Render::Existing existing, const QString &name)
     finishJob();
 }
 
-void Agent::keepConverterReady()
+void Agent::startConverter()
 {
-    if (m_converter && m_converter->ready())
-        return;
     m_converter = std::make_unique<Render::PostScriptConverter>();
     m_converter->start();
 }
@@ -234,6 +230,7 @@ void Agent::finishJob()
 {
     const QString name = m_jobName;
     m_job.reset();
+    m_converter.reset();
     // A job that stays in the queue would be shown again and again: set it aside at least.
     if (!m_spool.remove(name) && !m_spool.moveAside(name)) {
         m_notifier.tell(tr("Vellumio stopped taking print jobs"),
@@ -247,11 +244,14 @@ void Agent::failJob(const QString &why)
 {
     const QString name = m_jobName;
     m_job.reset();
+    m_converter.reset();
     const bool kept = m_spool.moveAside(name);
+    // The cause is one sentence of the message: its own full stop, if it has one, is the message's.
+    const QString cause = why.endsWith(QLatin1Char('.')) ? why.chopped(1) : why;
     m_notifier.tell(tr("Vellumio could not print \"%1\"").arg(m_fileName),
         kept ? tr("%1. The job is kept: \"%2\" prints it again.")
-                   .arg(why, QStringLiteral("vellumio-agent --retry"))
-             : tr("%1. The job cannot be kept and is dropped.").arg(why));
+                   .arg(cause, QStringLiteral("vellumio-agent --retry"))
+             : tr("%1. The job cannot be kept and is dropped.").arg(cause));
     if (!kept && !m_spool.remove(name))
         return stop(1);
     scheduleScan();
@@ -260,6 +260,8 @@ void Agent::failJob(const QString &why)
 void Agent::stop(int status)
 {
     m_stopped = true;
-    m_watcher.removePaths(m_watcher.files() + m_watcher.directories());
+    const QStringList watched = m_watcher.files() + m_watcher.directories();
+    if (!watched.isEmpty())
+        m_watcher.removePaths(watched);
     emit stopped(status);
 }
