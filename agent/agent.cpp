@@ -152,7 +152,7 @@ void Agent::takeJob(const QString &name)
     // Messages name the job by this too: a title is whatever the printing program chose.
     m_fileName = JobRules::safeFileName(QString::fromStdString(m_job->info.title));
     if (Render::isPostScript(m_job->document))
-        startConverter();
+        keepConverterReady();
     if (!JobRules::dialogWanted(SettingsKey(SettingsScope::User).value(Settings::ChDialog)))
         return render(Render::Existing::KeepAll, m_fileName);
     showDialog();
@@ -204,6 +204,8 @@ void Agent::render(Render::Existing existing, const QString &name)
     const bool postScript = Render::isPostScript(m_job->document);
     const Render::Result result = Render::renderJob(
         m_job->document, name, existing, postScript ? m_converter.get() : nullptr);
+    if (postScript)
+        keepConverterReady();
     if (!result.ok())
         return failJob(result.message);
     if (!result.files.isEmpty() && SettingsKey(optionsScope()).flag(Settings::LoadExtApp))
@@ -211,8 +213,10 @@ void Agent::render(Render::Existing existing, const QString &name)
     finishJob();
 }
 
-void Agent::startConverter()
+void Agent::keepConverterReady()
 {
+    if (m_converter && m_converter->ready())
+        return;
     m_converter = std::make_unique<Render::PostScriptConverter>();
     m_converter->start();
 }
@@ -230,7 +234,6 @@ void Agent::finishJob()
 {
     const QString name = m_jobName;
     m_job.reset();
-    m_converter.reset();
     // A job that stays in the queue would be shown again and again: set it aside at least.
     if (!m_spool.remove(name) && !m_spool.moveAside(name)) {
         m_notifier.tell(tr("Vellumio stopped taking print jobs"),
@@ -244,7 +247,6 @@ void Agent::failJob(const QString &why)
 {
     const QString name = m_jobName;
     m_job.reset();
-    m_converter.reset();
     const bool kept = m_spool.moveAside(name);
     // The cause is one sentence of the message: its own full stop, if it has one, is the message's.
     const QString cause = why.endsWith(QLatin1Char('.')) ? why.chopped(1) : why;

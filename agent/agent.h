@@ -60,7 +60,7 @@ private:
     void showDialog();
     void dialogFinished(bool started, bool exitedNormally);
     void render(Render::Existing existing, const QString &name);
-    void startConverter();
+    void keepConverterReady();
     void openResult(const QString &file) const;
     void finishJob();
     void failJob(const QString &why);
@@ -78,8 +78,9 @@ private:
     QString m_jobName; // the spool's name of the current job, also when it could not be read
     QString m_fileName; // the job's title made safe as a file name
     KeyStamp m_markedKey;
-    // Started as a PostScript job is taken, so that it starts while the dialog is up; it ends with
-    // the job, so no interpreter waits between jobs.
+    // Started as a PostScript job is taken, so that it starts while the dialog is up, and kept
+    // ready after one for the next: a program's jobs come one after another, and without the
+    // dialog the interpreter's start is most of the time a short PostScript job takes.
     std::unique_ptr<Render::PostScriptConverter> m_converter;
 };
 

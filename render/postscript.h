@@ -32,6 +32,8 @@ public:
     // conversion then says why).
     bool start();
     bool started() const { return m_process.state() != QProcess::NotRunning; }
+    // Started and waiting for its document.
+    bool ready() const { return started() && !m_used; }
 
     // Feeds `postScript` and waits for the PDF: its path in `pdf`, or the failure. Ends the
     // interpreter early once `stop` is set.
